@@ -1,0 +1,19 @@
+// Runs the benchmarks and relates them to one another: quote the ratios, machines are noisy.
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+
+#include "ratio_reporter.h"
+
+int main(int argc, char** argv) {
+    static char display[] = "TAVLON_DISPLAY=headless";
+    putenv(display);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.PrintRatio("value radar, full repaint : floor", "ValueRadar/FullRepaint", "Floor/Picture");
+    reporter.PrintRatio("value radar, hover move : full repaint", "ValueRadar/HoverMove",
+                        "ValueRadar/FullRepaint");
+    return 0;
+}

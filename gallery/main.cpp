@@ -1,0 +1,78 @@
+// The gallery: every control on real market data. Written as a customer of the library would write a host.
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "capture.h"
+#include "core/error.h"
+#include "data_dir.h"
+#include "main_window.h"
+#include "message_loop.h"
+#include "pages.h"
+#include "player.h"
+
+namespace gallery {
+
+namespace {
+
+/// Off the desktop: pictures and scripts must not depend on one. Read before the first window is made; means
+/// nothing where the system itself draws.
+void ChooseHeadlessDisplay() {
+    static char szSetting[] = "TAVLON_DISPLAY=headless";
+    ::putenv(szSetting);
+}
+
+void Render(MainWindow& wnd, const Arguments& args) {
+    std::error_code error;
+    std::filesystem::create_directories(args.target, error);
+    if (error) throw Error(args.target.string() + ": cannot be made: " + error.message());
+    for (const PageEntry& page : Pages()) {
+        if (args.page && *args.page != page.name) continue;
+        wnd.ShowPage(page);
+        wnd.SetPageSize(args.size.value_or(PageSize()));
+        RunPendingMessages();
+        const std::filesystem::path file = args.target / (page.name + ".png");
+        SaveClientArea(wnd, file);
+        std::printf("%s\n", file.generic_string().c_str());
+        std::fflush(stdout);
+    }
+}
+
+void Run(const Arguments& args) {
+    std::vector<Step> steps;
+    if (args.mode == Arguments::Mode::Script) steps = ReadScript(args.target, PageNames());
+    if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay();
+    MainWindow wnd(args.data.value_or(FindDataDir()));
+    wnd.Open(PageSize());
+    if (args.mode == Arguments::Mode::Render) return Render(wnd, args);
+    wnd.ShowPage(Pages().front());
+    if (args.mode == Arguments::Mode::Window) return RunMessageLoop();
+    wnd.SetPageSize(PageSize());
+    Player(wnd, std::move(steps), args.target.string()).Play();
+}
+
+int Main(const std::vector<std::string>& args) {
+    try {
+        const Arguments parsed = ParseArguments(args, PageNames());
+        if (parsed.mode == Arguments::Mode::Help)
+            std::fputs(Usage(PageNames()).c_str(), stdout);
+        else
+            Run(parsed);
+        return EXIT_SUCCESS;
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "tavlon_gallery: %s\n%s", error.what(), Usage(PageNames()).c_str());
+        return 2;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "tavlon_gallery: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
+}
+
+}  // namespace
+
+}  // namespace gallery
+
+int main(int argc, char** argv) { return gallery::Main(std::vector<std::string>(argv + 1, argv + argc)); }

@@ -1,0 +1,51 @@
+/// What every page of the gallery is: a child window that holds controls and says in a line or two what they
+/// show.
+#pragma once
+
+#include <tavlon/tavlon.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace gallery {
+
+class Page : public CWnd {
+public:
+    /// Makes the page, visible, over the given part of the parent, with its controls filled. FALSE: a window
+    /// could not be made.
+    BOOL CreateOn(CWnd& wndParent, const CRect& rc);
+
+protected:
+    /// Makes the controls and gives them their data. Called once, when the page's window exists.
+    virtual BOOL CreateControls() = 0;
+    /// Puts the controls into the page's area above the notes. Called after CreateControls and at every new
+    /// size.
+    virtual void PlaceControls(const CRect& rcContent) = 0;
+
+    /// The lines under the controls, code page 936.
+    void SetNotes(std::vector<std::string> notes);
+    CRect ContentRect() const;
+
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int NotesHeight() const;
+
+    std::vector<std::string> m_notes;
+    bool m_bReady = false;  ///< The controls exist.
+};
+
+/// One line of the list of pages.
+struct PageEntry {
+    std::string name;   ///< For the command line, scripts and file names.
+    std::string title;  ///< For people, code page 936.
+    /// Reads what the page needs from the data directory; throws Error when that fails.
+    std::unique_ptr<Page> (*pfnMake)(const std::filesystem::path& dataDir);
+};
+
+}  // namespace gallery

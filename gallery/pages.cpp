@@ -1,0 +1,26 @@
+#include "pages.h"
+
+#include "core/error.h"
+
+namespace gallery {
+
+const std::vector<PageEntry>& Pages() {
+    static const std::vector<PageEntry> pages{
+        {"radar", "价值雷达", MakeValueRadarPage},
+    };
+    return pages;
+}
+
+std::vector<std::string> PageNames() {
+    std::vector<std::string> names;
+    for (const PageEntry& page : Pages()) names.push_back(page.name);
+    return names;
+}
+
+const PageEntry& FindPage(const std::string& name) {
+    for (const PageEntry& page : Pages())
+        if (page.name == name) return page;
+    throw Error("no page named " + name);
+}
+
+}  // namespace gallery

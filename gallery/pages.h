@@ -1,0 +1,15 @@
+/// The pages of the gallery. A new page is a file of its own and a line in pages.cpp.
+#pragma once
+
+#include "page.h"
+
+namespace gallery {
+
+const std::vector<PageEntry>& Pages();  ///< In the order in which they are shown; at least one.
+std::vector<std::string> PageNames();
+const PageEntry& FindPage(const std::string& name);  ///< An Error when there is none of that name.
+
+// The factories, each in the page's own file.
+std::unique_ptr<Page> MakeValueRadarPage(const std::filesystem::path& dataDir);
+
+}  // namespace gallery

@@ -1,0 +1,26 @@
+#pragma once
+
+/// The class framework of the controls and their hosts: the one include.
+
+#include "framework/app.h"
+#include "framework/array.h"
+#include "framework/bitmap.h"
+#include "framework/cmd_target.h"
+#include "framework/cmd_ui.h"
+#include "framework/dc.h"
+#include "framework/exceptions.h"
+#include "framework/export.h"
+#include "framework/gdi_object.h"
+#include "framework/gdi_tools.h"
+#include "framework/menu.h"
+#include "framework/messages.h"
+#include "framework/module.h"
+#include "framework/object.h"
+#include "framework/point.h"
+#include "framework/rect.h"
+#include "framework/region.h"
+#include "framework/text.h"
+#include "framework/time.h"
+#include "framework/window.h"
+#include "framework/window_class.h"
+#include "framework/window_dc.h"

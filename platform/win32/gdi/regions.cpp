@@ -1,0 +1,125 @@
+#include "gdi/objects.h"
+#include "gdi/rectangle_math.h"
+#include "gdi/scan_ellipse.h"
+
+namespace tavlon::win32 {
+
+pixman_region32_t* RegionOf(HRGN hRgn) {
+    Region* region = ObjectAs<Region>(hRgn);
+    return region ? region->Raw() : nullptr;
+}
+
+}  // namespace tavlon::win32
+
+using namespace tavlon::win32;
+
+namespace {
+
+/// Shapes are cut to this square around the origin, which is far larger than any surface.
+constexpr int kReach = 1 << 17;
+constexpr RECT kShapeBounds{-kReach, -kReach, kReach, kReach};
+
+Region* RegionFor(HRGN hRgn) {
+    Region* region = ObjectAs<Region>(hRgn);
+    if (!region) SetLastError(ERROR_INVALID_HANDLE);
+    return region;
+}
+
+Region Combined(const Region& a, const Region& b, int mode) {
+    Region result = a;
+    if (mode == RGN_AND) result.Intersect(b);
+    if (mode == RGN_OR) result.Unite(b);
+    if (mode == RGN_DIFF) result.Subtract(b);
+    if (mode == RGN_XOR) {
+        Region rest = b;
+        rest.Subtract(a);
+        result.Subtract(b);
+        result.Unite(rest);
+    }
+    return result;
+}
+
+}  // namespace
+
+HRGN CreateRectRgn(int nLeft, int nTop, int nRight, int nBottom) {
+    return MakeObject<HRGN>(Region(Ordered({nLeft, nTop, nRight, nBottom})));
+}
+
+HRGN CreateRectRgnIndirect(const RECT* pRect) {
+    return pRect ? CreateRectRgn(pRect->left, pRect->top, pRect->right, pRect->bottom) : nullptr;
+}
+
+HRGN CreateEllipticRgn(int nLeft, int nTop, int nRight, int nBottom) {
+    RECT box = Ordered({nLeft, nTop, nRight, nBottom});
+    RegionBuilder builder;
+    if (!IsEmpty(box)) {
+        --box.right, --box.bottom;
+        ScanEllipse(kShapeBounds, box, builder.Sink());
+    }
+    return MakeObject<HRGN>(builder.Build());
+}
+
+HRGN CreateEllipticRgnIndirect(const RECT* pRect) {
+    return pRect ? CreateEllipticRgn(pRect->left, pRect->top, pRect->right, pRect->bottom) : nullptr;
+}
+
+HRGN CreatePolygonRgn(const POINT* pPoints, int nCount, int nMode) {
+    if (!pPoints || nCount < 1 || (nMode != ALTERNATE && nMode != WINDING)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    RegionBuilder builder;
+    ScanPolygon(kShapeBounds, {pPoints, static_cast<std::size_t>(nCount)}, nMode, builder.Sink());
+    return MakeObject<HRGN>(builder.Build());
+}
+
+BOOL SetRectRgn(HRGN hRgn, int nLeft, int nTop, int nRight, int nBottom) {
+    Region* region = RegionFor(hRgn);
+    if (!region) return FALSE;
+    region->Set(Ordered({nLeft, nTop, nRight, nBottom}));
+    return TRUE;
+}
+
+int CombineRgn(HRGN hDst, HRGN hSrc1, HRGN hSrc2, int nMode) {
+    Region* target = RegionFor(hDst);
+    const Region* first = target ? RegionFor(hSrc1) : nullptr;
+    if (!first || nMode < RGN_AND || nMode > RGN_COPY) return ERROR;
+    if (nMode == RGN_COPY) {
+        *target = *first;
+        return target->Complexity();
+    }
+    const Region* second = RegionFor(hSrc2);
+    if (!second) return ERROR;
+    *target = Combined(*first, *second, nMode);
+    return target->Complexity();
+}
+
+int OffsetRgn(HRGN hRgn, int x, int y) {
+    Region* region = RegionFor(hRgn);
+    if (!region) return ERROR;
+    region->Translate(x, y);
+    return region->Complexity();
+}
+
+BOOL EqualRgn(HRGN hRgn1, HRGN hRgn2) {
+    const Region* first = RegionFor(hRgn1);
+    const Region* second = RegionFor(hRgn2);
+    return first && second && *first == *second;
+}
+
+BOOL PtInRegion(HRGN hRgn, int x, int y) {
+    const Region* region = RegionFor(hRgn);
+    return region && region->Contains(x, y);
+}
+
+BOOL RectInRegion(HRGN hRgn, const RECT* pRect) {
+    const Region* region = RegionFor(hRgn);
+    return region && pRect && region->Touches(Ordered(*pRect));
+}
+
+int GetRgnBox(HRGN hRgn, LPRECT pRect) {
+    const Region* region = RegionFor(hRgn);
+    if (!region || !pRect) return ERROR;
+    *pRect = region->Bounds();
+    return region->Complexity();
+}

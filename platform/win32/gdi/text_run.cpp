@@ -1,0 +1,158 @@
+#include "gdi/text_run.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "kernel/code_page.h"
+
+namespace tavlon::win32 {
+namespace {
+
+constexpr UINT kHorizontalMask = TA_RIGHT | TA_CENTER;
+constexpr UINT kVerticalMask = TA_BOTTOM | TA_BASELINE;
+constexpr RECT kEverywhere{std::numeric_limits<LONG>::min(), std::numeric_limits<LONG>::min(),
+                           std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::max()};
+
+/// Coordinates near the ends of the range stay there instead of wrapping round.
+int Add(int a, std::int64_t b) {
+    return static_cast<int>(
+        std::clamp<std::int64_t>(a + b, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+RECT Intersection(const RECT& a, const RECT& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
+
+bool IsEmpty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
+
+RECT Normalised(const RECT& rect) {
+    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom), std::max(rect.left, rect.right),
+            std::max(rect.top, rect.bottom)};
+}
+
+/// Where the pen starts (surface pixels) and what surrounds the text.
+struct Placement {
+    POINT pen;  ///< On the baseline.
+    RECT box;   ///< Advance width by cell height.
+};
+
+Placement Place(const DeviceContext& dc, const FontMetrics& metrics, POINT reference, int width) {
+    const UINT align = dc.state.textAlign;
+    Placement place{reference, {}};
+    if ((align & kHorizontalMask) == TA_RIGHT) place.pen.x = Add(reference.x, -width);
+    if ((align & kHorizontalMask) == TA_CENTER) place.pen.x = Add(reference.x, -(width / 2));
+    if ((align & kVerticalMask) == TA_TOP) place.pen.y = Add(reference.y, metrics.ascent);
+    if ((align & kVerticalMask) == TA_BOTTOM) place.pen.y = Add(reference.y, -metrics.descent);
+    place.box = {place.pen.x, Add(place.pen.y, -metrics.ascent), Add(place.pen.x, width),
+                 Add(place.pen.y, metrics.descent)};
+    return place;
+}
+
+/// The current position moves to where the next text would continue.
+void MovePosition(DeviceContext& dc, int width) {
+    const UINT horizontal = dc.state.textAlign & kHorizontalMask;
+    if (horizontal == TA_CENTER) return;
+    dc.state.position.x = Add(dc.state.position.x, horizontal == TA_RIGHT ? -width : width);
+}
+
+/// Draws the part of a glyph that lies inside `clip`.
+void DrawGlyph(DeviceContext& dc, const Glyph& glyph, int x, int y, const RECT& clip) {
+    const RECT whole{x, y, Add(x, glyph.width), Add(y, glyph.height)};
+    const RECT part = Intersection(whole, clip);
+    if (IsEmpty(part)) return;
+    if (part.left == whole.left && part.right == whole.right) {  // whole rows lie one behind the other
+        BlendCoverage(dc, x, part.top, glyph.width, part.bottom - part.top,
+                      glyph.coverage + static_cast<std::ptrdiff_t>(part.top - y) * glyph.width,
+                      dc.state.textColor);
+        return;
+    }
+    for (int row = part.top; row < part.bottom; ++row)
+        BlendCoverage(dc, part.left, row, part.right - part.left, 1,
+                      glyph.coverage + static_cast<std::ptrdiff_t>(row - y) * glyph.width + (part.left - x),
+                      dc.state.textColor);
+}
+
+/// Ink may lean out of the advance box, by no more than a cell or so.
+RECT InkBounds(const Placement& place, const FontMetrics& metrics) {
+    const std::int64_t margin = 2LL * std::max(metrics.maxCharWidth, metrics.ascent + metrics.descent);
+    return {Add(place.box.left, -margin), Add(place.box.top, -margin), Add(place.box.right, margin),
+            Add(place.box.bottom, margin)};
+}
+
+void DrawGlyphs(DeviceContext& dc, const TextRun& run, POINT pen, const RECT& clip) {
+    for (const PlacedGlyph& placed : run.glyphs)
+        if (placed.glyph->coverage)
+            DrawGlyph(dc, *placed.glyph, Add(pen.x, placed.x + placed.glyph->left),
+                      Add(pen.y, -placed.glyph->top), clip);
+}
+
+/// Lines that the description asks for under or through the text.
+void DrawTextLines(DeviceContext& dc, const FontMetrics& metrics, const Placement& place, const RECT& clip) {
+    const LOGFONTA& font = FontDescription(dc);
+    const auto line = [&](int y) {
+        const RECT rect = Intersection({place.box.left, y, place.box.right, Add(y, 1)}, clip);
+        if (!IsEmpty(rect)) FillDeviceRect(dc, rect, dc.state.textColor);
+    };
+    if (font.lfUnderline) line(Add(place.pen.y, 1));
+    if (font.lfStrikeOut) line(Add(place.pen.y, -metrics.ascent / 3));
+}
+
+int AdvanceOf(const Glyph& glyph, const INT* pDx, std::size_t at, int bytes) {
+    if (!pDx) return glyph.drawnAdvance;
+    int sum = 0;
+    for (int i = 0; i < bytes; ++i) sum = Add(sum, pDx[at + static_cast<std::size_t>(i)]);
+    return sum;
+}
+
+/// Calls visit(glyph, offset of its first byte, bytes) for every character.
+template <class Visit>
+void ForEachGlyph(FontFace& font, std::string_view text, Visit visit) {
+    for (std::size_t at = 0; at < text.size();) {
+        const DecodedCharacter next = Decode936(text.substr(at));
+        visit(font.GlyphFor(next.character), at, next.bytes);
+        at += static_cast<std::size_t>(next.bytes);
+    }
+}
+
+}  // namespace
+
+FontFace& FontOf(const DeviceContext& dc) { return *FontForDescription(FontDescription(dc)); }
+
+TextRun LayOutRun(FontFace& font, std::string_view text, const INT* pDx) {
+    TextRun run;
+    run.glyphs.reserve(text.size());
+    ForEachGlyph(font, text, [&](const Glyph& glyph, std::size_t at, int bytes) {
+        run.glyphs.push_back({&glyph, run.width});
+        run.width = Add(run.width, AdvanceOf(glyph, pDx, at, bytes));
+    });
+    return run;
+}
+
+int WidthOf(FontFace& font, std::string_view text) {
+    int width = 0;
+    ForEachGlyph(font, text,
+                 [&](const Glyph& glyph, std::size_t, int) { width = Add(width, glyph.advance); });
+    return width;
+}
+
+void DrawRun(DeviceContext& dc, FontFace& font, POINT point, UINT options, const RECT* pRect,
+             std::string_view text, const INT* pDx) {
+    const bool follows = (dc.state.textAlign & TA_UPDATECP) != 0;
+    const POINT logical = follows ? dc.state.position : point;
+    const RECT rect = pRect ? Normalised(ToSurface(dc, *pRect)) : RECT{};
+    const RECT clip = pRect && (options & ETO_CLIPPED) ? rect : kEverywhere;
+    if (pRect && (options & ETO_OPAQUE)) FillDeviceRect(dc, rect, dc.state.bkColor);
+    if (text.empty()) return;
+    const TextRun run = LayOutRun(font, text, pDx);
+    const Placement place = Place(dc, font.Metrics(), ToSurface(dc, logical.x, logical.y), run.width);
+    if (follows) MovePosition(dc, run.width);
+    const RECT ink = Intersection(InkBounds(place, font.Metrics()), clip);
+    if (IsEmpty(ink) || !MayDraw(dc, ink)) return;
+    const RECT box = Intersection(place.box, clip);
+    if (dc.state.bkMode == OPAQUE && !IsEmpty(box)) FillDeviceRect(dc, box, dc.state.bkColor);
+    DrawGlyphs(dc, run, place.pen, clip);
+    DrawTextLines(dc, font.Metrics(), place, clip);
+}
+
+}  // namespace tavlon::win32

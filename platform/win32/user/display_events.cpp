@@ -1,0 +1,98 @@
+#include "kernel/code_page.h"
+#include "user/activation.h"
+#include "user/desktop.h"
+#include "user/geometry.h"
+#include "user/message_queue.h"
+#include "user/mouse_tracking.h"
+#include "user/outside_input.h"
+#include "user/window_dc.h"
+
+namespace tavlon::win32 {
+
+namespace {
+
+Window* WindowShownAs(display::WindowId id) {
+    for (Window* window : TopLevels())
+        if (id && window->shown == id) return window;
+    return nullptr;
+}
+
+/// The desktop moves and sizes the client area; the frame we think around it goes along.
+void FollowDesktop(Window& window, POINT clientAt, POINT clientSize) {
+    const bool framed = window.Has(WS_CAPTION);
+    const POINT border = framed ? ClientInFrame(window) : POINT{0, 0};
+    const int extraWidth = framed ? window.Width() - window.ClientWidth() : 0;
+    const int extraHeight = framed ? window.Height() - window.ClientHeight() : 0;
+    SetWindowPos(window.self, nullptr, clientAt.x - border.x, clientAt.y - border.y, clientSize.x + extraWidth,
+                 clientSize.y + extraHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+RECT Presented(const Window& window) {
+    return window.Has(WS_CAPTION) ? ClientOnScreen(window) : FrameOnScreen(window);
+}
+
+void Moved(Window& window, const display::Event& event) {
+    const RECT at = Presented(window);
+    FollowDesktop(window, {event.x, event.y}, {at.right - at.left, at.bottom - at.top});
+}
+
+void Resized(Window& window, const display::Event& event) {
+    const RECT at = Presented(window);
+    FollowDesktop(window, {at.left, at.top}, {event.x, event.y});
+}
+
+void TextTyped(const std::string& utf8) {
+    const HWND hFocus = GetFocus();
+    if (!hFocus) return;
+    for (char c : EncodeCodePage936(DecodeUtf8Text(utf8)))
+        PostMessageA(hFocus, WM_CHAR, static_cast<unsigned char>(c), 1);
+}
+
+void HandleWindowEvent(const display::Event& event) {
+    Window* window = WindowShownAs(event.window);
+    if (!window) return;
+    switch (event.kind) {
+        case display::EventKind::Moved: return Moved(*window, event);
+        case display::EventKind::Resized: return Resized(*window, event);
+        case display::EventKind::CloseRequest: PostMessageA(window->self, WM_SYSCOMMAND, SC_CLOSE, 0); return;
+        case display::EventKind::Exposed: window->damage.Set(LocalRect(window->Width(), window->Height())); return;
+        case display::EventKind::FocusGained: ForegroundGained(window->self); return;
+        default: return;
+    }
+}
+
+void Handle(const display::Event& event) {
+    switch (event.kind) {
+        case display::EventKind::PointerMove: PointerSeenAt({event.x, event.y}); return;
+        case display::EventKind::PointerLeave: PointerLeftAll(); return;
+        case display::EventKind::Button:
+            PointerSeenAt({event.x, event.y});
+            ButtonSeen(event.code, event.down);
+            return;
+        case display::EventKind::Wheel: WheelSeen(event.code); return;
+        case display::EventKind::Key: KeySeen(event.code, event.down); return;
+        case display::EventKind::Text: TextTyped(event.text); return;
+        default: HandleWindowEvent(event);
+    }
+}
+
+}  // namespace
+
+bool PumpDisplay() {
+    display::Event event;
+    bool lost = false, any = false;
+    while (TheDisplay().Poll(event)) {
+        any = true;
+        if (event.kind == display::EventKind::FocusLost)
+            lost = true;
+        else if (event.kind == display::EventKind::FocusGained)
+            lost = false, Handle(event);
+        else
+            Handle(event);
+    }
+    // Between two windows of ours the focus is lost and gained again at once: the gain decides.
+    if (lost) ForegroundLost();
+    return any;
+}
+
+}  // namespace tavlon::win32

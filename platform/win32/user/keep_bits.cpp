@@ -1,0 +1,139 @@
+#include "user/keep_bits.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "user/geometry.h"
+#include "user/invalidate.h"
+#include "user/screen.h"
+#include "user/window_dc.h"
+
+namespace tavlon::win32 {
+
+namespace {
+
+Region MovedRegion(Region region, POINT by, int sign = 1) {
+    region.Translate(sign * by.x, sign * by.y);
+    return region;
+}
+
+bool RedrawsAll(const Window& window, const KeptBits& before, UINT flags) {
+    if (flags & (SWP_NOCOPYBITS | SWP_SHOWWINDOW | SWP_HIDEWINDOW)) return true;
+    const bool wider = window.ClientWidth() != before.client.right - before.client.left;
+    const bool taller = window.ClientHeight() != before.client.bottom - before.client.top;
+    return (wider && (window.cls->style & CS_HREDRAW)) || (taller && (window.cls->style & CS_VREDRAW));
+}
+
+bool SameSize(const RECT& a, const RECT& b) {
+    return a.right - a.left == b.right - b.left && a.bottom - a.top == b.bottom - b.top;
+}
+
+/// Where the client area was, relative to the frame.
+Region OldClient(const KeptBits& before) {
+    return Region(MovedRect(before.client, before.clientInFrame.x - before.client.left,
+                            before.clientInFrame.y - before.client.top));
+}
+
+/// With another frame or size the frame is drawn anew; the client area keeps what both have.
+Region Comparable(const Window& window, const KeptBits& before) {
+    const POINT client = ClientInFrame(window);
+    const bool sameOffset = client.x == before.clientInFrame.x && client.y == before.clientInFrame.y;
+    const bool sameFrame = SameSize(window.frame, before.frame);
+    if (!sameOffset && !sameFrame) return {};
+    if (sameOffset && sameFrame && SameSize(window.client, before.client))
+        return Region(LocalRect(window.Width(), window.Height()));
+    Region both(MovedRect(LocalRect(window.ClientWidth(), window.ClientHeight()), client.x, client.y));
+    both.Intersect(OldClient(before));
+    return both;
+}
+
+/// Relative to the frame.
+Region ValidPart(Window& window, const KeptBits& before, const Region& visibleNow, UINT flags) {
+    if (!RootOf(window).surface || RedrawsAll(window, before, flags)) return {};
+    Region valid = Comparable(window, before);
+    valid.Intersect(MovedRegion(before.visible, before.onSurface, -1));
+    valid.Intersect(MovedRegion(visibleNow, FrameOnSurface(window), -1));
+    valid.Subtract(before.update);
+    return valid;
+}
+
+using Pixels = std::vector<std::uint32_t>;
+
+/// Through a buffer, so that source and destination may overlap in any way.
+void CopyPixels(Surface& from, Surface& to, const Region& source, POINT by) {
+    int count = 0;
+    const pixman_box32_t* boxes = source.Boxes(count);
+    Pixels buffer;
+    for (int i = 0; i < count; ++i)
+        for (int y = boxes[i].y1; y < boxes[i].y2; ++y)
+            buffer.insert(buffer.end(), from.Row32(y) + boxes[i].x1, from.Row32(y) + boxes[i].x2);
+    auto next = buffer.begin();
+    for (int i = 0; i < count; ++i)
+        for (int y = boxes[i].y1; y < boxes[i].y2; ++y) {
+            const auto width = boxes[i].x2 - boxes[i].x1;
+            std::copy_n(next, width, to.Row32(y + by.y) + boxes[i].x1 + by.x);
+            next += width;
+        }
+}
+
+Region OnSurfaceOnly(const Surface& surface, Region region, POINT by) {
+    region.Intersect(Region(LocalRect(surface.Width(), surface.Height())));
+    region.Translate(by.x, by.y);
+    return region;
+}
+
+void CopyValid(Window& window, const KeptBits& before, const Region& valid, const SurfaceRef& oldSurface) {
+    Window& root = RootOf(window);
+    if (!oldSurface || !root.surface || valid.Empty()) return;
+    const POINT now = FrameOnSurface(window);
+    const POINT by{now.x - before.onSurface.x, now.y - before.onSurface.y};
+    if (oldSurface == root.surface && by.x == 0 && by.y == 0) return;
+    Region source = OnSurfaceOnly(*oldSurface, MovedRegion(valid, before.onSurface), by);
+    source = OnSurfaceOnly(*root.surface, source, {-by.x, -by.y});
+    CopyPixels(*oldSurface, *root.surface, source, by);
+    AddDamage(root, MovedRegion(source, by));
+}
+
+void InvalidateUncovered(Window& window, const KeptBits& before, const Region& visibleNow) {
+    if (!window.parent) return;
+    Region uncovered = before.visible;
+    uncovered.Subtract(visibleNow);
+    if (uncovered.Empty()) return;
+    const POINT parentAt = FrameOnSurface(*window.parent);
+    InvalidateArea(*window.parent, MovedRegion(uncovered, parentAt, -1), RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void InvalidateRest(Window& window, const Region& valid, const Region& visibleNow) {
+    Region rest = MovedRegion(visibleNow, FrameOnSurface(window), -1);
+    rest.Subtract(valid);
+    if (!rest.Empty()) InvalidateArea(window, rest, RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+void TouchOldAndNew(const Window& window, const KeptBits& before) {
+    if (window.parent) return;
+    TouchScreen(before.frame);
+    TouchScreen(window.frame);
+}
+
+}  // namespace
+
+KeptBits RememberBits(Window& window) {
+    CollectDamage();
+    return {VisibleFrame(window), window.update, FrameOnSurface(window), ClientInFrame(window), window.frame,
+            window.client};
+}
+
+void MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
+    TouchOldAndNew(window, before);
+    const Region visibleNow = VisibleFrame(window);
+    const Region valid = ValidPart(window, before, visibleNow, positionFlags);
+    const SurfaceRef oldSurface = RootOf(window).surface;
+    if (!window.parent) FitSurface(window);
+    CopyValid(window, before, valid, oldSurface);
+    window.update.Intersect(Region(LocalRect(window.Width(), window.Height())));
+    if (positionFlags & SWP_NOREDRAW) return;
+    InvalidateUncovered(window, before, visibleNow);
+    InvalidateRest(window, valid, visibleNow);
+}
+
+}  // namespace tavlon::win32

@@ -1,0 +1,20 @@
+/// What a moved or sized window keeps of its picture, and what has to be painted for it.
+#pragma once
+
+#include "user/window.h"
+
+namespace tavlon::win32 {
+
+/// A window's picture before a change.
+struct KeptBits {
+    Region visible;  ///< Of the frame, on the surface.
+    Region update;   ///< Not yet painted, relative to the frame.
+    POINT onSurface{}, clientInFrame{};
+    RECT frame{}, client{};
+};
+
+KeptBits RememberBits(Window& window);
+/// Moves what stays valid and invalidates the rest of the window and what it uncovered.
+void MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags);
+
+}  // namespace tavlon::win32

@@ -1,0 +1,173 @@
+#include "kernel/handle_table.h"
+#include "kernel/menu_resource.h"
+#include "user/menu.h"
+#include "user/text_copy.h"
+#include "user/window.h"
+
+namespace tavlon::win32 {
+
+namespace {
+
+constexpr int kMaxDepth = 16;
+constexpr std::size_t kMaxItems = 4096;
+constexpr UINT kStateBits = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_SEPARATOR;
+
+using MenuTable = HandleTable<Menu, kTagMenu>;
+
+MenuTable& Table() {
+    static MenuTable table;
+    return table;
+}
+
+HMENU AddMenu() { return static_cast<HMENU>(Table().Add(std::make_unique<Menu>())); }
+
+MenuItem MakeItem(UINT flags, UINT_PTR id, LPCSTR text) {
+    MenuItem item;
+    item.state = flags & kStateBits;
+    if (item.IsSeparator()) item.state |= MF_GRAYED | MF_DISABLED;
+    item.id = id;
+    if (flags & MF_POPUP) item.submenu = reinterpret_cast<HMENU>(id);
+    if (text && !item.IsSeparator()) item.text = text;
+    return item;
+}
+
+FoundItem FindByCommand(HMENU hMenu, UINT id, int depth) {
+    Menu* menu = Table().Get(hMenu);
+    if (!menu || depth > kMaxDepth) return {};
+    for (std::size_t i = 0; i < menu->items.size(); ++i) {
+        const MenuItem& item = menu->items[i];
+        if (!item.submenu && !item.IsSeparator() && item.id == id) return {menu, i};
+        if (const FoundItem found = item.submenu ? FindByCommand(item.submenu, id, depth + 1) : FoundItem{})
+            return found;
+    }
+    return {};
+}
+
+HMENU BuildMenu(const std::vector<MenuTemplateItem>& items, bool popup) {
+    const HMENU hMenu = popup ? CreatePopupMenu() : CreateMenu();
+    for (const MenuTemplateItem& item : items) {
+        const UINT_PTR id = (item.flags & MF_POPUP)
+                                ? reinterpret_cast<UINT_PTR>(BuildMenu(item.children, true))
+                                : item.id;
+        AppendMenuA(hMenu, item.flags, id, item.text.c_str());
+    }
+    return hMenu;
+}
+
+DWORD ChangeState(const FoundItem& item, UINT mask, UINT state) {
+    if (!item) return 0xffffffffu;
+    const DWORD old = item->state & mask;
+    item->state = (item->state & ~mask) | (state & mask);
+    return old;
+}
+
+}  // namespace
+
+Menu* MenuOf(HMENU hMenu) {
+    Menu* menu = Table().Get(hMenu);
+    if (!menu) SetLastError(ERROR_INVALID_MENU_HANDLE);
+    return menu;
+}
+
+std::size_t LiveMenus() { return Table().Live(); }
+
+FoundItem FindMenuItem(HMENU hMenu, UINT id, UINT flags) {
+    Menu* menu = MenuOf(hMenu);
+    if (!menu) return {};
+    if (!(flags & MF_BYPOSITION)) return FindByCommand(hMenu, id, 0);
+    return id < menu->items.size() ? FoundItem{menu, id} : FoundItem{};
+}
+
+}  // namespace tavlon::win32
+
+using namespace tavlon::win32;
+
+HMENU CreateMenu() { return AddMenu(); }
+HMENU CreatePopupMenu() { return AddMenu(); }
+BOOL IsMenu(HMENU hMenu) { return MenuOf(hMenu) != nullptr; }
+
+HMENU LoadMenuA(HINSTANCE hInstance, LPCSTR pszName) {
+    const auto items = LoadMenuTemplate(hInstance, pszName);
+    return items ? BuildMenu(*items, false) : nullptr;
+}
+
+BOOL DestroyMenu(HMENU hMenu) {
+    if (!MenuOf(hMenu)) return FALSE;
+    const auto menu = Table().Remove(hMenu);
+    for (const MenuItem& item : menu->items)
+        if (item.submenu) DestroyMenu(item.submenu);
+    return TRUE;
+}
+
+BOOL AppendMenuA(HMENU hMenu, UINT nFlags, UINT_PTR nId, LPCSTR pszText) {
+    Menu* menu = MenuOf(hMenu);
+    if (!menu || menu->items.size() >= kMaxItems) return FALSE;
+    if ((nFlags & MF_POPUP) && !MenuOf(reinterpret_cast<HMENU>(nId))) return FALSE;
+    menu->items.push_back(MakeItem(nFlags, nId, pszText));
+    return TRUE;
+}
+
+BOOL ModifyMenuA(HMENU hMenu, UINT nPosition, UINT nFlags, UINT_PTR nId, LPCSTR pszText) {
+    const FoundItem found = FindMenuItem(hMenu, nPosition, nFlags);
+    if (!found || ((nFlags & MF_POPUP) && !MenuOf(reinterpret_cast<HMENU>(nId)))) return FALSE;
+    MenuItem& item = found.menu->items[found.index];
+    const HMENU hOld = item.submenu;
+    item = MakeItem(nFlags, nId, pszText);
+    if (hOld && hOld != item.submenu) DestroyMenu(hOld);
+    return TRUE;
+}
+
+int GetMenuItemCount(HMENU hMenu) {
+    const Menu* menu = MenuOf(hMenu);
+    return menu ? static_cast<int>(menu->items.size()) : -1;
+}
+
+UINT GetMenuItemID(HMENU hMenu, int nPosition) {
+    const FoundItem item = FindMenuItem(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
+    return item && !item->submenu ? static_cast<UINT>(item->id) : 0xffffffffu;
+}
+
+HMENU GetSubMenu(HMENU hMenu, int nPosition) {
+    const FoundItem item = FindMenuItem(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
+    return item ? item->submenu : nullptr;
+}
+
+UINT GetMenuState(HMENU hMenu, UINT nId, UINT nFlags) {
+    const FoundItem item = FindMenuItem(hMenu, nId, nFlags);
+    if (!item) return 0xffffffffu;
+    if (!item->submenu) return item->state;
+    const int count = GetMenuItemCount(item->submenu);
+    return ((item->state | MF_POPUP) & 0xff) | (static_cast<UINT>(count < 0 ? 0 : count & 0xff) << 8);
+}
+
+int GetMenuStringA(HMENU hMenu, UINT nId, LPSTR pszText, int cchText, UINT nFlags) {
+    if (pszText && cchText > 0) *pszText = 0;
+    const FoundItem item = FindMenuItem(hMenu, nId, nFlags);
+    if (!item) return 0;
+    return pszText && cchText > 0 ? CopyText(item->text, pszText, cchText) : static_cast<int>(item->text.size());
+}
+
+DWORD CheckMenuItem(HMENU hMenu, UINT nId, UINT nCheck) {
+    return ChangeState(FindMenuItem(hMenu, nId, nCheck), MF_CHECKED, nCheck);
+}
+
+BOOL EnableMenuItem(HMENU hMenu, UINT nId, UINT nEnable) {
+    return static_cast<BOOL>(ChangeState(FindMenuItem(hMenu, nId, nEnable), MF_GRAYED | MF_DISABLED, nEnable));
+}
+
+BOOL CheckMenuRadioItem(HMENU hMenu, UINT nFirst, UINT nLast, UINT nCheck, UINT nFlags) {
+    const FoundItem chosen = FindMenuItem(hMenu, nCheck, nFlags);
+    if (!chosen || nFirst > nLast) return FALSE;
+    for (std::size_t i = 0; i < chosen.menu->items.size(); ++i) {
+        MenuItem& item = chosen.menu->items[i];
+        const UINT_PTR key = (nFlags & MF_BYPOSITION) ? i : item.id;
+        if (key < nFirst || key > nLast || item.submenu || item.IsSeparator()) continue;
+        item.state = i == chosen.index ? item.state | MF_CHECKED : item.state & ~MF_CHECKED;
+    }
+    return TRUE;
+}
+
+HMENU GetMenu(HWND hWnd) {
+    const Window* window = WindowOf(hWnd);
+    return window && !window->IsChild() ? window->menu : nullptr;
+}

@@ -1,0 +1,33 @@
+/// The window that shows one level of a tracked menu.
+#pragma once
+
+#include <windows.h>
+
+#include "user/menu_layout.h"
+#include "user/window_class.h"
+
+namespace tavlon::win32 {
+
+/// The class of popup menu windows, known to every program.
+ClassRef MakeMenuClass();
+
+/// One open level. `selected` is -1 for none.
+struct MenuPopup {
+    HMENU menu = nullptr;
+    HWND window = nullptr;
+    MenuLayout layout;
+    int selected = -1;
+
+    /// Opens next to the point, moved so that it lies on the screen. `beside` is the width to keep clear of when
+    /// it opens to the left instead.
+    static MenuPopup Open(HMENU hMenu, POINT at, int beside, HWND hOwner);
+    void Close();
+    bool Contains(POINT screen) const;
+    int RowAt(POINT screen) const;
+    void Select(int row);
+};
+
+/// How the menu window finds what it shows; null when none of the open levels is it.
+const MenuPopup* OpenMenuPopup(HWND hWnd);
+
+}  // namespace tavlon::win32

@@ -1,0 +1,22 @@
+/// The thread's queue: posted messages, input, painting and timers, in this order.
+#pragma once
+
+#include <windows.h>
+
+namespace tavlon::win32 {
+
+/// With the time and pointer position of now.
+MSG MakeMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+bool PassesRange(UINT message, UINT first, UINT last);
+/// Whether a message for the window passes the filter: null takes all, a window itself and its children.
+bool PassesWindow(HWND hWnd, HWND filter);
+
+/// What a key press says goes before everything posted.
+void PostFirst(const MSG& msg);
+void DropMessagesOf(HWND hWnd);
+/// True when no message is there and, without input from outside and timers, none will ever come.
+bool NothingCanArrive();
+/// Sleeps until something may have arrived.
+void WaitForArrival();
+
+}  // namespace tavlon::win32

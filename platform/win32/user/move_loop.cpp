@@ -1,0 +1,100 @@
+#include "user/move_loop.h"
+
+#include "user/capture.h"
+#include "user/geometry.h"
+#include "user/input_queue.h"
+#include "user/message_queue.h"
+#include "user/window_position.h"
+
+namespace tavlon::win32 {
+
+namespace {
+
+struct Drag {
+    HWND window;
+    POINT start;      ///< Pointer position at the press, on the screen.
+    RECT frameStart;  ///< On the screen.
+    bool going = true;
+};
+
+RECT FrameNow(HWND hWnd) {
+    RECT rect{};
+    GetWindowRect(hWnd, &rect);
+    return rect;
+}
+
+void PlaceAt(HWND hWnd, POINT at) {
+    const Window* window = WindowOf(hWnd);
+    if (!window) return;
+    const POINT origin = window->parent ? ClientOrigin(*window->parent) : POINT{0, 0};
+    ChangePosition({hWnd, HWND_TOP, static_cast<int>(at.x - origin.x), static_cast<int>(at.y - origin.y),
+                    window->Width(), window->Height(), SWP_NOSIZE});
+}
+
+/// The window may correct the rectangle before it is moved there.
+void DragTo(Drag& drag, POINT pointer) {
+    RECT rect = MovedRect(drag.frameStart, pointer.x - drag.start.x, pointer.y - drag.start.y);
+    const RECT now = FrameNow(drag.window);
+    if (rect.left == now.left && rect.top == now.top) return;
+    SendMessageA(drag.window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect));
+    rect = ClampedRect(rect);
+    PlaceAt(drag.window, {rect.left, rect.top});
+}
+
+void Cancel(Drag& drag) {
+    drag.going = false;
+    const RECT now = FrameNow(drag.window), &start = drag.frameStart;
+    if (now.left != start.left || now.top != start.top) PlaceAt(drag.window, {start.left, start.top});
+}
+
+void HandleOne(Drag& drag, const MSG& msg) {
+    switch (msg.message) {
+        case WM_MOUSEMOVE: DragTo(drag, msg.pt); return;
+        case WM_LBUTTONUP:
+            DragTo(drag, msg.pt);
+            drag.going = false;
+            return;
+        case WM_KEYDOWN:
+            if (msg.wParam == VK_ESCAPE) Cancel(drag);
+            return;
+        default:
+            TranslateMessage(&msg);
+            DispatchMessageA(&msg);
+    }
+}
+
+/// False when no message will ever end the loop.
+bool NextMessage(MSG& msg) {
+    while (!PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        if (NothingCanArrive()) return false;
+        WaitForArrival();
+    }
+    if (msg.message != WM_QUIT) return true;
+    PostQuitMessage(static_cast<int>(msg.wParam));  // the outer loop's to see
+    return false;
+}
+
+void Run(Drag& drag) {
+    MSG msg;
+    while (drag.going && IsWindow(drag.window) && GetCapture() == drag.window && NextMessage(msg)) HandleOne(drag, msg);
+}
+
+}  // namespace
+
+void RunMoveLoop(HWND hWnd) {
+    const Window* window = WindowOf(hWnd);
+    if (!window || !IsKeyDown(VK_LBUTTON) || window->Has(WS_MAXIMIZE)) return;
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    AskSizeLimits(hWnd);
+    if (!IsWindow(hWnd)) return;
+    Drag drag{hWnd, pointer, FrameNow(hWnd)};
+    SendMessageA(hWnd, WM_ENTERSIZEMOVE, 0, 0);
+    if (!IsWindow(hWnd)) return;
+    SetCapture(hWnd);
+    Run(drag);
+    if (GetCapture() == hWnd) EndCapture();
+    if (IsWindow(hWnd)) SendMessageA(hWnd, WM_EXITSIZEMOVE, 0, 0);
+}
+
+}  // namespace tavlon::win32

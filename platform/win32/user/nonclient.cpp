@@ -1,0 +1,164 @@
+#include "user/nonclient.h"
+
+#include <algorithm>
+
+#include "user/geometry.h"
+
+namespace tavlon::win32 {
+
+namespace {
+
+constexpr int kCornerReach = 16;  // how far along an edge the corners can be gripped
+
+int BorderWidth(DWORD style) {
+    const bool dialog = (style & (WS_DLGFRAME | WS_THICKFRAME)) != 0;
+    const bool line = (style & (WS_BORDER | WS_DLGFRAME)) != 0;
+    return (dialog ? 2 : 0) + ((style & WS_THICKFRAME) ? 1 : 0) + (line ? 1 : 0);
+}
+
+bool HasCaption(DWORD style) { return (style & WS_CAPTION) == WS_CAPTION; }
+
+bool Inside(const RECT& rect, POINT pt) {
+    return pt.x >= rect.left && pt.x < rect.right && pt.y >= rect.top && pt.y < rect.bottom;
+}
+
+int EdgeCode(const RECT& frame, POINT pt, int border) {
+    constexpr int kCodes[3][3] = {{HTTOPLEFT, HTTOP, HTTOPRIGHT}, {HTLEFT, HTBORDER, HTRIGHT}, {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
+    const auto band = [border](LONG at, LONG low, LONG high, bool wide) {
+        const int reach = wide ? kCornerReach : border;
+        return at < low + reach ? 0 : at >= high - reach ? 2 : 1;
+    };
+    const bool onSide = pt.x < frame.left + border || pt.x >= frame.right - border;
+    return kCodes[band(pt.y, frame.top, frame.bottom, onSide)][band(pt.x, frame.left, frame.right, !onSide)];
+}
+
+/// The buttons stand at the caption's right end: close, then maximise, then minimise.
+int CaptionCode(const Window& window, const RECT& caption, POINT pt) {
+    if (!window.Has(WS_SYSMENU)) return HTCAPTION;
+    const int width = caption.bottom - caption.top;
+    const int slot = (caption.right - 1 - pt.x) / std::max(width, 1);
+    if (slot == 0) return HTCLOSE;
+    if (slot == 1 && window.Has(WS_MAXIMIZEBOX)) return HTMAXBUTTON;
+    if (slot == 2 && window.Has(WS_MINIMIZEBOX)) return HTMINBUTTON;
+    return pt.x < caption.left + width ? HTSYSMENU : HTCAPTION;
+}
+
+RECT CaptionRect(const Window& window) {
+    const int border = BorderWidth(window.style);
+    return {border, border, window.Width() - border, border + GetSystemMetrics(SM_CYCAPTION) - 1};
+}
+
+void FrameRings(HDC hdc, const Window& window) {
+    RECT ring = LocalRect(window.Width(), window.Height());
+    const int border = BorderWidth(window.style);
+    const bool plain = border == 1 && !window.Has(WS_DLGFRAME);
+    for (int i = 0; i < border; ++i) {
+        const int colour = plain ? COLOR_WINDOWFRAME : i == 0 ? COLOR_3DSHADOW : COLOR_3DFACE;
+        FrameRect(hdc, &ring, GetSysColorBrush(colour));
+        InflateRect(&ring, -1, -1);
+    }
+    if (!(window.exStyle & WS_EX_CLIENTEDGE)) return;
+    if (HasCaption(window.style)) ring.top += GetSystemMetrics(SM_CYCAPTION);
+    for (int colour : {COLOR_3DSHADOW, COLOR_3DDKSHADOW}) {
+        FrameRect(hdc, &ring, GetSysColorBrush(colour));
+        InflateRect(&ring, -1, -1);
+    }
+}
+
+void PaintCloseButton(HDC hdc, const RECT& caption) {
+    const int size = caption.bottom - caption.top;
+    RECT button{caption.right - size + 2, caption.top + 2, caption.right - 2, caption.bottom - 2};
+    FillRect(hdc, &button, GetSysColorBrush(COLOR_3DFACE));
+    InflateRect(&button, -4, -4);
+    for (int shift : {0, 1}) {
+        MoveToEx(hdc, button.left + shift, button.top, nullptr);
+        LineTo(hdc, button.right + shift, button.bottom);
+        MoveToEx(hdc, button.left + shift, button.bottom - 1, nullptr);
+        LineTo(hdc, button.right + shift, button.top - 1);
+    }
+}
+
+void PaintCaption(HDC hdc, const Window& window) {
+    RECT caption = CaptionRect(window);
+    const bool active = GetActiveWindow() == window.self;
+    FillRect(hdc, &caption, GetSysColorBrush(active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
+    RECT line{caption.left, caption.bottom, caption.right, caption.bottom + 1};
+    FillRect(hdc, &line, GetSysColorBrush(COLOR_3DFACE));
+    if (window.Has(WS_SYSMENU)) PaintCloseButton(hdc, caption);
+    const HGDIOBJ hOld = SelectObject(hdc, GetStockObject(DEFAULT_GUI_FONT));
+    SetBkMode(hdc, TRANSPARENT);
+    SetTextColor(hdc, GetSysColor(COLOR_CAPTIONTEXT));
+    caption.left += 4;
+    DrawTextA(hdc, window.text.c_str(), static_cast<int>(window.text.size()), &caption,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    SelectObject(hdc, hOld);
+}
+
+void ClipToFrame(HDC hdc, const Window& window, HRGN hClip) {
+    pixman_region32_t* clip = RegionOf(hClip);
+    if (clip) {
+        const POINT at = FrameOrigin(window);
+        const HRGN hLocal = CreateRectRgn(0, 0, 0, 0);
+        CombineRgn(hLocal, hClip, nullptr, RGN_COPY);
+        OffsetRgn(hLocal, -at.x, -at.y);
+        SelectClipRgn(hdc, hLocal);
+        DeleteObject(hLocal);
+    }
+    const POINT client = ClientInFrame(window);
+    ExcludeClipRect(hdc, client.x, client.y, client.x + window.ClientWidth(), client.y + window.ClientHeight());
+}
+
+}  // namespace
+
+RECT FrameMargins(DWORD style, DWORD exStyle) {
+    const int border = BorderWidth(style) + ((exStyle & WS_EX_CLIENTEDGE) ? 2 : 0);
+    const int caption = HasCaption(style) ? GetSystemMetrics(SM_CYCAPTION) : 0;
+    return {border, border + caption, border, border};
+}
+
+LRESULT CalculateClient(RECT& rect, const Window& window) {
+    const RECT margins = FrameMargins(window.style, window.exStyle);
+    rect = ClampedRect(rect);
+    rect.left += margins.left;
+    rect.top += margins.top;
+    rect.right = std::max(rect.right - margins.right, rect.left);
+    rect.bottom = std::max(rect.bottom - margins.bottom, rect.top);
+    return 0;
+}
+
+LRESULT HitTestFrame(HWND hWnd, POINT pt) {
+    const Window* window = WindowOf(hWnd);
+    if (!window) return HTERROR;
+    if (Inside(ClientOnScreen(*window), pt)) return HTCLIENT;
+    const RECT frame = FrameOnScreen(*window);
+    if (!Inside(frame, pt)) return HTNOWHERE;
+    const RECT caption = MovedRect(CaptionRect(*window), frame.left, frame.top);
+    if (HasCaption(window->style) && Inside(caption, pt)) return CaptionCode(*window, caption, pt);
+    return window->Has(WS_THICKFRAME) ? EdgeCode(frame, pt, BorderWidth(window->style)) : HTBORDER;
+}
+
+void PaintFrame(HWND hWnd, HRGN hClip) {
+    const Window* window = WindowOf(hWnd);
+    if (!window || (window->ClientWidth() == window->Width() && window->ClientHeight() == window->Height())) return;
+    const HDC hdc = GetWindowDC(hWnd);
+    ClipToFrame(hdc, *window, hClip);
+    FrameRings(hdc, *window);
+    if (HasCaption(window->style)) PaintCaption(hdc, *window);
+    ReleaseDC(hWnd, hdc);
+}
+
+}  // namespace tavlon::win32
+
+using namespace tavlon::win32;
+
+BOOL AdjustWindowRectEx(LPRECT pRect, DWORD dwStyle, BOOL bMenu, DWORD dwExStyle) {
+    if (!pRect) return FALSE;
+    const RECT margins = FrameMargins(dwStyle, dwExStyle);
+    const int menu = bMenu ? GetSystemMetrics(SM_CYCAPTION) : 0;
+    const RECT inner = ClampedRect(*pRect);
+    *pRect = {inner.left - margins.left, inner.top - margins.top - menu, inner.right + margins.right,
+              inner.bottom + margins.bottom};
+    return TRUE;
+}
+
+BOOL AdjustWindowRect(LPRECT pRect, DWORD dwStyle, BOOL bMenu) { return AdjustWindowRectEx(pRect, dwStyle, bMenu, 0); }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <tavlon/framework.h>
+
+#include <type_traits>
+
+#include "mem_dc.h"
+
+/// What tells one control's window from another's.
+struct ControlNames {
+    const char* pszWindow;       ///< Window name.
+    const char* pszClass;        ///< Registered class name; null keeps the framework's anonymous class.
+    BOOL bNoBackground = FALSE;  ///< Class brush: FALSE the window colour, TRUE none.
+};
+
+/// Makes the visible child window of `wnd`. FALSE, changing nothing, when `wnd` already has a window, without
+/// a parent window, or when the window cannot be made.
+BOOL CreateControlWindow(CWnd& wnd, const ControlNames& names, CWnd* pParent, const CRect& rect, UINT nID);
+
+/// For PreCreateWindow: registers the control's own class, unless it exists, and makes the window take it.
+BOOL UseControlClass(const ControlNames& names, CREATESTRUCT& cs);
+
+/// For PreTranslateMessage: a mouse button on `wnd` itself gives it the keyboard focus.
+void TakeFocusOnClick(CWnd& wnd, const MSG* pMsg);
+
+/// The setter of a control that shows a new value at once, or at the first paint while it has no window.
+template <class Value>
+void StoreAndRepaint(CWnd& wnd, Value& member, const std::type_identity_t<Value>& value) {
+    member = value;
+    wnd.Invalidate();
+}
+
+/// WM_PAINT of every control: draw(CDC& surface, const CRect& rcClient) composes the picture off screen,
+/// which then reaches the window in one transfer.
+template <class Draw>
+void PaintOffScreen(CWnd& wnd, Draw draw) {
+    CPaintDC dcPaint(&wnd);
+    CRect rcClient;
+    wnd.GetClientRect(&rcClient);
+    CMemDC dcSurface(&dcPaint, &rcClient);
+    draw(dcSurface, rcClient);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+/// The text of a fixed field: up to its zero, or the whole field when it has none.
+template <std::size_t nSize>
+std::string_view FieldText(const char (&szField)[nSize]) {
+    return {szField, ::strnlen(szField, nSize)};
+}
+
+/// Fills a field with at most nSize - 1 bytes of the text, possibly cutting a two-byte character; what is
+/// left of the field is zeroed. A null pointer is an empty text.
+template <std::size_t nSize>
+void CopyText(char (&szField)[nSize], const char* pszText) {
+    const std::size_t nLength = pszText != nullptr ? ::strnlen(pszText, nSize - 1) : 0;
+    char szCopy[nSize] = {};  // the text may be the field itself
+    if (nLength > 0) std::memcpy(szCopy, pszText, nLength);
+    std::memcpy(szField, szCopy, nSize);
+}
+
+/// Byte by byte, 'A' to 'Z' taken as 'a' to 'z'.
+bool EqualIgnoringCase(std::string_view text1, std::string_view text2);

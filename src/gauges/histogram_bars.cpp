@@ -1,0 +1,42 @@
+#include "histogram_bars.h"
+
+#include <algorithm>
+#include <utility>
+
+void HistogramBars::Clear() {
+    m_arrData.RemoveAll();
+    m_nSelIndex = -1;
+}
+
+BOOL HistogramBars::Add(tagHistogramData& data) {
+    constexpr int k_nMaxBars = 20;
+    const bool bPositive = data.dXValue > 0 && data.dYValue > 0;
+    if (m_arrData.GetSize() >= k_nMaxBars || !bPositive) return FALSE;
+    m_arrData.Add(data);
+    m_bNeedSort = 1;
+    return TRUE;
+}
+
+void HistogramBars::SortIfNeeded() {
+    if (!m_bNeedSort) return;
+    const int nCount = static_cast<int>(m_arrData.GetSize());
+    m_dMaxValue = 0.0;
+    for (int i = 0; i < nCount; ++i) {
+        // An exchange sort: which of several equal bars comes first depends on it.
+        for (int j = i + 1; j < nCount; ++j) {
+            if (m_arrData[j].dXValue < m_arrData[i].dXValue) std::swap(m_arrData[i], m_arrData[j]);
+        }
+        m_dMaxValue = std::max<double>(m_dMaxValue, m_arrData[i].dYValue);
+    }
+    m_bNeedSort = 0;
+}
+
+BOOL HistogramBars::Select(int nId) {
+    BOOL bFound = FALSE;
+    for (int i = 0; i < m_arrData.GetSize(); ++i) {
+        if (m_arrData[i].nId != nId) continue;
+        m_nSelIndex = i;
+        bFound = TRUE;
+    }
+    return bFound;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "histogram_bars.h"
+
+/// Histogram: keeps the bars, axis titles and colours. The exported contract is CProxy_HistogramCtrl.
+/// Paints its background only so far.
+class myHistogramCtrl : public CWnd {
+public:
+    myHistogramCtrl();
+    int Create(CWnd* pParent, CRect rect, UINT nID);
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+    int Init();
+    int SetData(tagHistogramData& data) { return m_bars.Add(data); }
+    int Play();
+    int SetIndex(int nId);
+    void SetCoordinateShaftColor(COLORREF clr);
+    void SetGirdColor(COLORREF clr);
+    void SetBackColor(COLORREF clr);
+    void SetCoordinateShaftFontColor(COLORREF clr);
+    void SetCoordinateShaftTitleColor(COLORREF clr);
+    void SetBorderColor(COLORREF clr);
+    void DisplayGird(bool bShow);
+    void SetYTitle(char* text);
+    void SetXTitle(char* text);
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    COLORREF m_clrBack = RGB(0, 0, 0);
+    COLORREF m_clrGird = RGB(63, 63, 63);
+    COLORREF m_clrCoordinateShaft = RGB(182, 0, 0);
+    COLORREF m_clrCoordinateShaftFont = RGB(192, 192, 192);
+    COLORREF m_clrCoordinateShaftTitle = RGB(192, 192, 192);
+    COLORREF m_clrBorder = RGB(182, 0, 0);
+    bool m_bDisplayGird = true;
+    char m_szYTitle[100];
+    char m_szXTitle[100];
+    HistogramBars m_bars;
+    int m_nSelId = -1;  ///< Last id given to SetIndex.
+};

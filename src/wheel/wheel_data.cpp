@@ -1,0 +1,74 @@
+#include "../foundation/control_window.h"
+#include "../foundation/text_copy.h"
+#include "wheel_ctrl.h"
+
+int TavlonBR::Init(CArray<tagmyBRData, tagmyBRData&>& data, const tagBlocksInfo& info) {
+    m_blocksInfo = info;
+    m_nCount = static_cast<int>(data.GetSize());
+    m_arrData.SetSize(m_nCount);
+    for (int i = 0; i < m_nCount; ++i) m_arrData[i] = data[i];
+    SelectNamed(FieldText(m_blocksInfo.current));
+    SpreadAngles();
+    ClearAreas();
+    return TRUE;
+}
+
+/// The last record of that name; without one the selection stays, as long as its record does.
+void TavlonBR::SelectNamed(std::string_view name) {
+    if (m_nSelect >= m_nCount) m_nSelect = -1;
+    if (name.empty()) return;
+    for (int i = 0; i < m_nCount; ++i) {
+        if (EqualIgnoringCase(FieldText(m_arrData[i].name), name)) m_nSelect = i;
+    }
+}
+
+void TavlonBR::SpreadAngles() {
+    m_arrAngle.RemoveAll();
+    if (m_nCount < 1) return;
+    const float fStep = 360.0f / static_cast<float>(m_nCount);
+    float fAngle = 0.0f;
+    for (int i = 1; i < m_nCount; ++i) {
+        fAngle += fStep;
+        m_arrAngle.Add(static_cast<UINT>(fAngle));
+    }
+}
+
+void TavlonBR::ClearAreas() {
+    for (auto* pAreas : {&m_arrDotArea, &m_arrLabelArea}) {
+        pAreas->RemoveAll();
+        pAreas->SetSize(m_nCount);
+    }
+}
+
+void TavlonBR::SetUpdateTime(CTime& time) {
+    m_tmUpdate = time;
+    m_bShowTime = true;
+    Invalidate();
+}
+
+int TavlonBR::SetTitle(CString& title) {
+    if (title.GetLength() >= static_cast<int>(sizeof m_blocksInfo.title)) return FALSE;
+    CopyText(m_blocksInfo.title, title);
+    return TRUE;
+}
+
+int TavlonBR::GetCurBlockData(tagmyBRData& data) {
+    if (m_nSelect < 0 || m_nSelect >= m_arrData.GetSize()) return FALSE;
+    data = m_arrData[m_nSelect];
+    return TRUE;
+}
+
+int TavlonBR::SetData(tagmyBRData& data) {
+    const std::string_view name = FieldText(data.name);
+    if (name.empty()) return FALSE;
+    for (int i = 0; i < m_nCount; ++i) {
+        if (EqualIgnoringCase(FieldText(m_arrData[i].name), name)) return SetData(i, data);
+    }
+    return FALSE;
+}
+
+int TavlonBR::SetData(int index, tagmyBRData& data) {
+    if (index < 0 || index >= m_nCount || FieldText(data.name).empty()) return FALSE;
+    m_arrData[index] = data;
+    return TRUE;
+}

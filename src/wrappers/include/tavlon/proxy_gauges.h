@@ -1,0 +1,120 @@
+#pragma once
+
+#include <tavlon/export.h>
+#include <tavlon/framework.h>
+#include <tavlon/records.h>
+
+#include <memory>
+
+class CPositionBar;
+class CPrssureSupportCtrl;
+class TavlonRiskBar;
+class myHistogramCtrl;
+
+/// Market risk gauge: two arrows on a scale of five steps. Setters store; call ReDraw after a batch.
+class TAVLON_API CProxy_RiskBarCtrl {
+public:
+    CProxy_RiskBarCtrl();
+    CProxy_RiskBarCtrl(const CProxy_RiskBarCtrl&) = default;
+    CProxy_RiskBarCtrl& operator=(const CProxy_RiskBarCtrl&) = default;
+    virtual ~CProxy_RiskBarCtrl();
+    int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
+
+    int Play();     ///< TRUE; nothing else.
+    int Stop();     ///< TRUE; nothing else.
+    void ReDraw();  ///< Repaints.
+    /// Stores a step, 0 to 100 (1 to 5 are drawn), of arrow 1 (long term) or 2 (short term); else ignored.
+    void SetData(int nValue, int nWhich);
+    void SetTitle(CString& title);                      ///< Stores.
+    void SetExplain(CString& text);                     ///< Stores the paragraph under the scale.
+    void SetColor(COLORREF clrBack, COLORREF clrText);  ///< Stores background and explanation colour.
+    void SetTitleTextColor(COLORREF clr);               ///< Stores.
+    void SetLineColor(COLORREF clr, int nWhich);        ///< Stores the colour of arrow 1 or 2; else ignored.
+    void SetBorderColor(COLORREF clr, int nSide);  ///< Side 0 top, 1 bottom, 2 left, 3 right; else ignored.
+
+private:
+    std::shared_ptr<TavlonRiskBar> m_pControl;
+};
+
+/// Position bar: how much of their capital three investor camps hold. Setters store; call ReDraw after a
+/// batch.
+class TAVLON_API CProxy_PositionBarCtrl {
+public:
+    CProxy_PositionBarCtrl();
+    CProxy_PositionBarCtrl(const CProxy_PositionBarCtrl&) = default;
+    CProxy_PositionBarCtrl& operator=(const CProxy_PositionBarCtrl&) = default;
+    virtual ~CProxy_PositionBarCtrl();
+    int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
+
+    int Play();     ///< TRUE; nothing else.
+    int Stop();     ///< TRUE; nothing else.
+    void ReDraw();  ///< Repaints.
+    /// Stores a percentage, 0 to 100, of camp 1 (aggressive), 2 (steady) or 3 (conservative); else ignored.
+    void SetData(int nValue, int nWhich);
+    void SetTitle(CString& title);                      ///< Stores.
+    void SetColor(COLORREF clrBack, COLORREF clrText);  ///< Stores background and text colour.
+    void SetTitleTextColor(COLORREF clr);               ///< Stores.
+    void SetCylinderColor(COLORREF clr, int nWhich);    ///< Stores the fill of camp 1 to 3; else ignored.
+    void SetCoordinateColor(COLORREF clr);              ///< Stores the colour of axes and cylinder outlines.
+    void SetBorderColor(COLORREF clr, int nSide);  ///< Side 0 top, 1 bottom, 2 left, 3 right; else ignored.
+
+private:
+    std::shared_ptr<CPositionBar> m_pControl;
+};
+
+/// Pressure and support ladder: five price levels of one stock, 1 medium-term pressure, 2 short-term
+/// pressure, 3 current price, 4 short-term support, 5 medium-term support. Setters store; call ReDraw after a
+/// batch.
+class TAVLON_API CProxy_PrssureSupportCtrl {
+public:
+    CProxy_PrssureSupportCtrl();
+    CProxy_PrssureSupportCtrl(const CProxy_PrssureSupportCtrl&) = default;
+    CProxy_PrssureSupportCtrl& operator=(const CProxy_PrssureSupportCtrl&) = default;
+    virtual ~CProxy_PrssureSupportCtrl();
+    int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
+
+    int Play();                                   ///< TRUE; nothing else.
+    int Stop();                                   ///< TRUE; nothing else.
+    void ReDraw();                                ///< Repaints.
+    void SetPriceData(float fPrice, int nLevel);  ///< Price in yuan, 0 to 1000, level 1 to 5; else ignored.
+    void SetColor(COLORREF clrBack, COLORREF clrText);  ///< Stores background and figure colour.
+    void SetPrSuColor(COLORREF clr, int nLevel);  ///< Stores the bar colour of level 1 to 5; else ignored.
+    void SetPrSuTextColor(COLORREF clr,
+                          int nLevel);  ///< Stores the name colour of level 1 to 5; else ignored.
+    void SetBigMidSmallColor(COLORREF clr, int nWhich);  ///< Block 1 strong, 2 medium, 3 weak; else ignored.
+    void SetBorderColor(COLORREF clr, int nSide);  ///< Side 0 top, 1 bottom, 2 left, 3 right; else ignored.
+    void SerSeparLineColor(COLORREF clr);          ///< Stores the colour of the separator lines.
+
+private:
+    std::shared_ptr<CPrssureSupportCtrl> m_pControl;
+};
+
+/// Histogram of up to 20 bars.
+class TAVLON_API CProxy_HistogramCtrl {
+public:
+    CProxy_HistogramCtrl();
+    CProxy_HistogramCtrl(const CProxy_HistogramCtrl&) = default;
+    CProxy_HistogramCtrl& operator=(const CProxy_HistogramCtrl&) = default;
+    virtual ~CProxy_HistogramCtrl();
+    int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
+
+    int Init();  ///< Removes all bars and the highlight; TRUE. Does not repaint.
+    /// Appends one bar. FALSE: 20 are held, or a value is not above 0 (NaN included). Does not repaint.
+    int SetData(tagHistogramData& data);
+    int Play();  ///< Sorts the bars by dXValue; repaints; TRUE.
+    /// Highlights the last bar with that id, by its present position: call Play first. FALSE when there is
+    /// none, the earlier highlight stays. Repaints either way.
+    int SetIndex(int nId);
+    void SetCoordinateShaftColor(COLORREF clr);       ///< Axis lines; repaints.
+    void SetGirdColor(COLORREF clr);                  ///< Grid lines; repaints.
+    void SetBackColor(COLORREF clr);                  ///< Background; repaints.
+    void SetCoordinateShaftFontColor(COLORREF clr);   ///< Scale numbers and bar labels; repaints.
+    void SetCoordinateShaftTitleColor(COLORREF clr);  ///< Axis titles; repaints.
+    void SetBorderColor(COLORREF clr);                ///< Stored, drawn by nothing; repaints.
+    void DisplayGird(bool bShow);                     ///< Shows or hides the grid; repaints.
+    void SetYTitle(char* text);                       ///< Keeps at most 99 bytes; repaints.
+    void SetXTitle(char* text);                       ///< Keeps at most 99 bytes; repaints.
+
+private:
+    std::shared_ptr<myHistogramCtrl> m_pControl;
+};

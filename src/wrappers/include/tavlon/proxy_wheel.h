@@ -1,0 +1,39 @@
+#pragma once
+
+#include <tavlon/export.h>
+#include <tavlon/framework.h>
+#include <tavlon/records.h>
+
+#include <memory>
+
+class TavlonBR;
+
+/// Sector rotation wheel. A double click on a sector posts message WM_USER + 301 (both parameters 0) to the
+/// parent, which then reads the record with GetCurBlockData.
+class TAVLON_API CProxy_BR {
+public:
+    CProxy_BR();
+    CProxy_BR(const CProxy_BR&) = default;
+    CProxy_BR& operator=(const CProxy_BR&) = default;
+    virtual ~CProxy_BR();
+    int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
+
+    /// Replaces the sectors and the block information and selects the sector named info.current, if any;
+    /// TRUE. Does not repaint.
+    int Init(CArray<tagmyBRData, tagmyBRData&>& data, const tagBlocksInfo& info);
+    int Play();                               ///< TRUE; nothing else.
+    int Stop();                               ///< TRUE; nothing else.
+    void ReDraw();                            ///< Repaints.
+    void SetUpdateTime(CTime& time);          ///< Stores the time and shows the time line; repaints.
+    int SetTitle(CString& title);             ///< Stores; FALSE when the title is 32 bytes or longer.
+    void GetBlocksInfo(tagBlocksInfo& info);  ///< Copies out the block information with the current title.
+    int GetCurBlockData(tagmyBRData& data);  ///< Copies out the selected sector; FALSE when none is selected.
+    /// Replaces the first record of that name (ASCII case ignored). FALSE: empty or unknown name. Does not
+    /// repaint.
+    int SetData(tagmyBRData& data);
+    /// Replaces record `index`. FALSE: no such index, or an empty name. Does not repaint.
+    int SetData(int index, tagmyBRData& data);
+
+private:
+    std::shared_ptr<TavlonBR> m_pControl;
+};

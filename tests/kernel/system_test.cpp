@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <atomic>
+#include <climits>
+#include <cstring>
+#include <string>
+#include <thread>
+
+namespace {
+
+TEST(MulDiv, RoundsAndRefuses) {
+    struct Case {
+        const char* pszName;
+        int nNumber, nNumerator, nDenominator, nWant;
+    };
+    for (const Case& c : {Case{"exact", 6, 4, 3, 8}, Case{"half goes up", 5, 1, 2, 3},
+                          Case{"and down below zero", -5, 1, 2, -3}, Case{"negative factor", 7, -1, 2, -4},
+                          Case{"negative divisor", 5, 1, -2, -3}, Case{"less than half", 4, 1, 3, 1},
+                          Case{"the product may be long", INT_MAX, INT_MAX, INT_MAX, INT_MAX},
+                          Case{"division by zero", 1, 1, 0, -1}, Case{"too large", INT_MAX, 2, 1, -1},
+                          Case{"too large by one", INT_MIN, 1, -1, -1}}) {
+        SCOPED_TRACE(c.pszName);
+        EXPECT_EQ(c.nWant, MulDiv(c.nNumber, c.nNumerator, c.nDenominator));
+    }
+}
+
+TEST(LastError, BelongsToTheThread) {
+    std::atomic<bool> bGo = false, bDone = false;  // neither side calls the system while the errors stand
+    DWORD dwOther = 99;
+    std::thread other([&] {
+        while (!bGo) continue;
+        SetLastError(6);
+        dwOther = GetLastError();
+        bDone = true;
+    });
+    SetLastError(5);
+    bGo = true;
+    while (!bDone) continue;
+    EXPECT_EQ(5u, GetLastError());
+    other.join();
+    EXPECT_EQ(6u, dwOther);
+}
+
+TEST(Threads, HaveTheirOwnId) {
+    DWORD dwOther = 0;
+    std::thread([&dwOther] { dwOther = GetCurrentThreadId(); }).join();
+    EXPECT_NE(0u, GetCurrentThreadId());
+    EXPECT_EQ(GetCurrentThreadId(), GetCurrentThreadId());
+    EXPECT_NE(dwOther, GetCurrentThreadId());
+}
+
+TEST(Modules, HostProgram) {
+    const HMODULE hHost = GetModuleHandleA(nullptr);
+    ASSERT_NE(nullptr, hHost);
+    EXPECT_EQ(hHost, GetModuleHandleA(nullptr));
+    char szHost[MAX_PATH] = {}, szNull[MAX_PATH] = {};
+    const DWORD cch = GetModuleFileNameA(hHost, szHost, MAX_PATH);
+    EXPECT_EQ(cch, GetModuleFileNameA(nullptr, szNull, MAX_PATH));
+    EXPECT_STREQ(szHost, szNull);
+    EXPECT_NE(nullptr, strstr(szHost, "tavlon_tests"));
+}
+
+TEST(Modules, FileNameIsCutToTheBuffer) {
+    char szWhole[MAX_PATH] = {}, szCut[8];
+    GetModuleFileNameA(nullptr, szWhole, MAX_PATH);
+    EXPECT_EQ(8u, GetModuleFileNameA(nullptr, szCut, 8));
+    EXPECT_EQ(std::string(szWhole).substr(0, 7), std::string(szCut, 7));
+}
+
+TEST(Modules, UnknownNames) {
+    EXPECT_EQ(nullptr, GetModuleHandleA("no such module"));
+    EXPECT_EQ(nullptr, FindResourceA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(29999), RT_BITMAP));
+    EXPECT_EQ(nullptr, LoadBitmapA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(29999)));
+}
+
+}  // namespace
