@@ -25,6 +25,9 @@ void ChooseHeadlessDisplay() {
     ::putenv(szSetting);
 }
 
+/// Into the far corner, where no page is: a picture shows what a script's own moves point at, nothing else.
+void ParkPointer() { SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1); }
+
 void Render(MainWindow& wnd, const Arguments& args) {
     std::error_code error;
     std::filesystem::create_directories(args.target, error);
@@ -45,6 +48,8 @@ void Run(const Arguments& args) {
     std::vector<Step> steps;
     if (args.mode == Arguments::Mode::Script) steps = ReadScript(args.target, PageNames());
     if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay();
+    if (args.mode != Arguments::Mode::Window) ParkPointer();
+    if (args.plainText) SystemParametersInfo(SPI_SETFONTSMOOTHING, FALSE, nullptr, 0);
     MainWindow wnd(args.data.value_or(FindDataDir()));
     wnd.Open(PageSize());
     if (args.mode == Arguments::Mode::Render) return Render(wnd, args);

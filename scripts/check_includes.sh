@@ -21,8 +21,11 @@ forbid "the layer knows nothing above it" 'tavlon/|foundation/|scatter/|wrappers
 forbid "the framework stands on <windows.h> alone" \
     'win32/|gdi/|user/|kernel/|display/|pixman|ft2build|SDL|tavlon/(tavlon|records|proxies|value_radar)\.h|foundation/|scatter/' \
     platform/framework
+# The layer's registration of a module's resources is the one thing that src/resources may ask of it.
 forbid "a control sees only the framework and the foundation" \
-    'win32/|gdi/|user/|kernel/|display/|pixman|ft2build|SDL|fontconfig|gallery/' src
+    'win32/(base|gdi|user|kernel)|gdi/|user/|kernel/|display/|pixman|ft2build|SDL|fontconfig|gallery/' src
+forbid "a control sees only the framework and the foundation" 'win32/' \
+    src/foundation src/wrappers src/scatter src/wheel src/minute src/pie src/gauges src/tabs
 forbid "the host uses only the public headers" \
     'win32/|gdi/|user/|kernel/|display/|pixman|ft2build|SDL|foundation/|scatter/|wheel/|minute/|pie/|gauges/|tabs/|wrappers/' \
     gallery
@@ -31,7 +34,6 @@ for family in scatter wheel minute pie gauges tabs; do
     others=$(printf '%s\n' scatter wheel minute pie gauges tabs | grep -vx "$family" | paste -sd'|')
     forbid "families of controls do not know one another" "($others)/" "src/$family"
 done
-# The layer's own registration of a module's resources is the one thing that src/resources may ask of it.
 conditional=$(grep -rlE '^[[:space:]]*#[[:space:]]*if.*_WIN32' --include='*.h' --include='*.cpp' src gallery platform/framework |
     grep -vE '^src/(resources/|foundation/(library|module)_[a-z_]*\.(cpp|h)$)|/export\.h$')
 if [ -n "$conditional" ]; then

@@ -19,6 +19,8 @@ public:
         while (m_nNext < m_args.size()) ReadOption(m_args[m_nNext++]);
         if (m_out.mode != Arguments::Mode::Render && (m_out.page || m_out.size))
             throw UsageError("--page and --size go with --render");
+        if (m_out.mode == Arguments::Mode::Window && m_out.plainText)
+            throw UsageError("--plain-text goes with --render and --script");
         return m_out;
     }
 
@@ -34,6 +36,8 @@ private:
             SetOnce(m_out.page, option, Page(Value(option)));
         else if (option == "--size")
             SetOnce(m_out.size, option, Size(Value(option)));
+        else if (option == "--plain-text")
+            m_out.plainText = true;
         else if (option == "--data")
             SetOnce(m_out.data, option, std::filesystem::path(Value(option)));
         else
@@ -99,10 +103,12 @@ Arguments ParseArguments(const std::vector<std::string>& args, const std::vector
 
 std::string Usage(const std::vector<std::string>& pages) {
     std::string text =
-        "usage: tavlon_gallery [--data DIR]                 the charts in a window\n"
-        "       tavlon_gallery --render DIR [--page NAME] [--size WxH] [--data DIR]\n"
-        "                                                   one PNG a page into DIR\n"
-        "       tavlon_gallery --script FILE [--data DIR]   what a person would do, from a file\n"
+        "usage: tavlon_gallery                 the charts in a window\n"
+        "       tavlon_gallery --render DIR [--page NAME] [--size WxH] [--plain-text]\n"
+        "                                      one PNG a page into DIR\n"
+        "       tavlon_gallery --script FILE [--plain-text]\n"
+        "                                      what a person would do, from a file\n"
+        "all take --data DIR, where the data files are; --plain-text switches the smoothing of text off\n"
         "pages:";
     for (const std::string& page : pages) text += " " + page;
     return text + "\n";

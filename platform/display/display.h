@@ -82,6 +82,8 @@ public:
     virtual void Place(WindowId window, const Rect& client) = 0;
     virtual void SetTitle(WindowId window, const std::string& titleUtf8) = 0;
     virtual void Activate(WindowId window) = 0;
+    /// Whether keys go to one of our windows.
+    virtual bool HasFocus() const = 0;
     /// Shows the changed rectangles (client coordinates) of the picture.
     virtual void Present(WindowId window, const Picture& picture, const std::vector<Rect>& changed) = 0;
 

@@ -26,7 +26,8 @@ void HistogramBars::SortIfNeeded() {
         for (int j = i + 1; j < nCount; ++j) {
             if (m_arrData[j].dXValue < m_arrData[i].dXValue) std::swap(m_arrData[i], m_arrData[j]);
         }
-        m_dMaxValue = std::max<double>(m_dMaxValue, m_arrData[i].dYValue);
+        const double dHeight = m_arrData[i].dYValue;  // a copy: the packed record may lie at any address
+        m_dMaxValue = std::max(m_dMaxValue, dHeight);
     }
     m_bNeedSort = 0;
 }

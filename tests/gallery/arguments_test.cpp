@@ -57,6 +57,7 @@ TEST(Arguments, Refused) {
                           Case{"render and script", {"--render", "a", "--script", "b"}},
                           Case{"render twice", {"--render", "a", "--render", "b"}},
                           Case{"page without render", {"--page", "radar"}},
+                          Case{"plain text in the window", {"--plain-text"}},
                           Case{"size with script", {"--script", "f", "--size", "10x10"}},
                           Case{"unknown page", {"--render", "a", "--page", "tabs"}},
                           Case{"page twice", {"--render", "a", "--page", "radar", "--page", "radar"}},

@@ -8,6 +8,8 @@
 #include <initializer_list>
 #include <vector>
 
+#include "support/print.h"
+
 /// Pixels of a client area, each 0x00RRGGBB.
 struct Shot {
     int cx = 0, cy = 0;

@@ -67,7 +67,7 @@ private:
     }
 
     CRect Rect() {
-        if (OneIn(4)) return CRect(Whole(), Whole(), Whole(), Whole());
+        if (OneIn(12)) return CRect(Whole(), Whole(), Whole(), Whole());
         return CRect(0, 0, Between(0, 300), Between(0, 200));
     }
 

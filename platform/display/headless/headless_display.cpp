@@ -25,6 +25,7 @@ public:
     void Place(WindowId, const Rect&) override {}
     void SetTitle(WindowId, const std::string&) override {}
     void Activate(WindowId) override {}
+    bool HasFocus() const override { return true; }
     void Present(WindowId, const Picture&, const std::vector<Rect>&) override {}
 
     void MovePointer(int, int) override {}

@@ -13,22 +13,30 @@ namespace {
 
 SDL_SystemCursor SystemCursorOf(StockCursor stock) {
     switch (stock) {
-        case StockCursor::IBeam: return SDL_SYSTEM_CURSOR_IBEAM;
-        case StockCursor::Wait: return SDL_SYSTEM_CURSOR_WAIT;
-        case StockCursor::Cross: return SDL_SYSTEM_CURSOR_CROSSHAIR;
-        case StockCursor::SizeAll: return SDL_SYSTEM_CURSOR_SIZEALL;
-        case StockCursor::Hand: return SDL_SYSTEM_CURSOR_HAND;
-        case StockCursor::SizeHorz: return SDL_SYSTEM_CURSOR_SIZEWE;
-        case StockCursor::SizeVert: return SDL_SYSTEM_CURSOR_SIZENS;
-        default: return SDL_SYSTEM_CURSOR_ARROW;
+        case StockCursor::IBeam:
+            return SDL_SYSTEM_CURSOR_IBEAM;
+        case StockCursor::Wait:
+            return SDL_SYSTEM_CURSOR_WAIT;
+        case StockCursor::Cross:
+            return SDL_SYSTEM_CURSOR_CROSSHAIR;
+        case StockCursor::SizeAll:
+            return SDL_SYSTEM_CURSOR_SIZEALL;
+        case StockCursor::Hand:
+            return SDL_SYSTEM_CURSOR_HAND;
+        case StockCursor::SizeHorz:
+            return SDL_SYSTEM_CURSOR_SIZEWE;
+        case StockCursor::SizeVert:
+            return SDL_SYSTEM_CURSOR_SIZENS;
+        default:
+            return SDL_SYSTEM_CURSOR_ARROW;
     }
 }
 
 SDL_Cursor* MakeCursor(const CursorImage& image) {
     if (image.pixels.empty()) return SDL_CreateSystemCursor(SystemCursorOf(image.stock));
-    SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormatFrom(
-        const_cast<std::uint32_t*>(image.pixels.data()), image.width, image.height, 32, image.width * 4,
-        SDL_PIXELFORMAT_ARGB8888);
+    SDL_Surface* surface =
+        SDL_CreateRGBSurfaceWithFormatFrom(const_cast<std::uint32_t*>(image.pixels.data()), image.width,
+                                           image.height, 32, image.width * 4, SDL_PIXELFORMAT_ARGB8888);
     if (!surface) return nullptr;
     SDL_Cursor* cursor = SDL_CreateColorCursor(surface, image.hotX, image.hotY);
     SDL_FreeSurface(surface);
@@ -38,7 +46,8 @@ SDL_Cursor* MakeCursor(const CursorImage& image) {
 Uint32 FlagsOf(const WindowSpec& spec) {
     Uint32 flags = SDL_WINDOW_SHOWN;
     if (!spec.framed) flags |= SDL_WINDOW_BORDERLESS | SDL_WINDOW_SKIP_TASKBAR;
-    if (!spec.framed && spec.owner) flags |= SDL_WINDOW_POPUP_MENU;  // stays out of the desktop's focus handling
+    if (!spec.framed && spec.owner)
+        flags |= SDL_WINDOW_POPUP_MENU;  // stays out of the desktop's focus handling
     if (spec.resizable) flags |= SDL_WINDOW_RESIZABLE;
     if (spec.topmost) flags |= SDL_WINDOW_ALWAYS_ON_TOP;
     return flags;
@@ -71,17 +80,24 @@ public:
 
     WindowId Open(const WindowSpec& spec) override {
         SDL_Window* window =
-            SDL_CreateWindow(spec.titleUtf8.c_str(), spec.client.x, spec.client.y, std::max(spec.client.width, 1),
-                             std::max(spec.client.height, 1), FlagsOf(spec));
+            SDL_CreateWindow(spec.titleUtf8.c_str(), spec.client.x, spec.client.y,
+                             std::max(spec.client.width, 1), std::max(spec.client.height, 1), FlagsOf(spec));
         if (!window) return 0;
         const WindowId id = SDL_GetWindowID(window);
         m_windows[id] = window;
+        m_owners[id] = spec.owner;
         return id;
     }
 
     void Close(WindowId id) override {
-        if (SDL_Window* window = Find(id)) SDL_DestroyWindow(window);
+        SDL_Window* window = Find(id);
+        if (!window) return;
+        const bool hadFocus = SDL_GetKeyboardFocus() == window;
+        SDL_Window* owner = Find(m_owners[id]);
+        SDL_DestroyWindow(window);
         m_windows.erase(id);
+        m_owners.erase(id);
+        if (hadFocus && owner) SDL_SetWindowInputFocus(owner);
     }
 
     void Place(WindowId id, const Rect& client) override {
@@ -99,8 +115,14 @@ public:
         if (SDL_Window* window = Find(id)) SDL_SetWindowTitle(window, title.c_str());
     }
     void Activate(WindowId id) override {
-        if (SDL_Window* window = Find(id)) SDL_RaiseWindow(window);
+        SDL_Window* window = Find(id);
+        if (!window) return;
+        SDL_RaiseWindow(window);
+        for (const auto& [owned, owner] : m_owners)  // popups stay above their owner
+            if (owner == id) SDL_RaiseWindow(Find(owned));
     }
+
+    bool HasFocus() const override { return SDL_GetKeyboardFocus() != nullptr; }
 
     void Present(WindowId id, const Picture& picture, const std::vector<Rect>& changed) override {
         SDL_Window* window = Find(id);
@@ -114,7 +136,8 @@ public:
             if (SDL_IntersectRect(&wanted, &limit, &clipped)) rects.push_back(clipped);
         }
         for (const SDL_Rect& rect : rects) CopyRows(picture, *surface, rect);
-        if (!rects.empty()) SDL_UpdateWindowSurfaceRects(window, rects.data(), static_cast<int>(rects.size()));
+        if (!rects.empty())
+            SDL_UpdateWindowSurfaceRects(window, rects.data(), static_cast<int>(rects.size()));
     }
 
     void MovePointer(int x, int y) override { SDL_WarpMouseGlobal(x, y); }
@@ -150,6 +173,7 @@ private:
     }
 
     std::map<WindowId, SDL_Window*> m_windows;
+    std::map<WindowId, WindowId> m_owners;
     SDL_Cursor* m_cursor = nullptr;
 };
 

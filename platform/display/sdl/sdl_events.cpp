@@ -21,14 +21,29 @@ bool TranslateWindowEvent(const SDL_WindowEvent& raw, Event& event) {
     event.x = raw.data1;
     event.y = raw.data2;
     switch (raw.event) {
-        case SDL_WINDOWEVENT_EXPOSED: event.kind = EventKind::Exposed; return true;
-        case SDL_WINDOWEVENT_MOVED: event.kind = EventKind::Moved; return true;
-        case SDL_WINDOWEVENT_SIZE_CHANGED: event.kind = EventKind::Resized; return true;
-        case SDL_WINDOWEVENT_LEAVE: event.kind = EventKind::PointerLeave; return true;
-        case SDL_WINDOWEVENT_FOCUS_GAINED: event.kind = EventKind::FocusGained; return true;
-        case SDL_WINDOWEVENT_FOCUS_LOST: event.kind = EventKind::FocusLost; return true;
-        case SDL_WINDOWEVENT_CLOSE: event.kind = EventKind::CloseRequest; return true;
-        default: return false;
+        case SDL_WINDOWEVENT_EXPOSED:
+            event.kind = EventKind::Exposed;
+            return true;
+        case SDL_WINDOWEVENT_MOVED:
+            event.kind = EventKind::Moved;
+            return true;
+        case SDL_WINDOWEVENT_SIZE_CHANGED:
+            event.kind = EventKind::Resized;
+            return true;
+        case SDL_WINDOWEVENT_LEAVE:
+            event.kind = EventKind::PointerLeave;
+            return true;
+        case SDL_WINDOWEVENT_FOCUS_GAINED:
+            event.kind = EventKind::FocusGained;
+            return true;
+        case SDL_WINDOWEVENT_FOCUS_LOST:
+            event.kind = EventKind::FocusLost;
+            return true;
+        case SDL_WINDOWEVENT_CLOSE:
+            event.kind = EventKind::CloseRequest;
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -38,10 +53,17 @@ bool TranslateButton(const SDL_MouseButtonEvent& raw, Event& event) {
     event.down = raw.state == SDL_PRESSED;
     PlacePointer(raw.windowID, raw.x, raw.y, event);
     switch (raw.button) {
-        case SDL_BUTTON_LEFT: event.code = 0; return true;
-        case SDL_BUTTON_RIGHT: event.code = 1; return true;
-        case SDL_BUTTON_MIDDLE: event.code = 2; return true;
-        default: return false;
+        case SDL_BUTTON_LEFT:
+            event.code = 0;
+            return true;
+        case SDL_BUTTON_RIGHT:
+            event.code = 1;
+            return true;
+        case SDL_BUTTON_MIDDLE:
+            event.code = 2;
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -66,23 +88,28 @@ bool TranslateText(const SDL_TextInputEvent& raw, Event& event) {
 bool TranslateSdlEvent(const SDL_Event& raw, Event& event) {
     event = Event{};
     switch (raw.type) {
-        case SDL_WINDOWEVENT: return TranslateWindowEvent(raw.window, event);
+        case SDL_WINDOWEVENT:
+            return TranslateWindowEvent(raw.window, event);
         case SDL_MOUSEMOTION:
             event.kind = EventKind::PointerMove;
             event.window = raw.motion.windowID;
             PlacePointer(raw.motion.windowID, raw.motion.x, raw.motion.y, event);
             return true;
         case SDL_MOUSEBUTTONDOWN:
-        case SDL_MOUSEBUTTONUP: return TranslateButton(raw.button, event);
+        case SDL_MOUSEBUTTONUP:
+            return TranslateButton(raw.button, event);
         case SDL_MOUSEWHEEL:
             event.kind = EventKind::Wheel;
             event.window = raw.wheel.windowID;
             event.code = raw.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -raw.wheel.y : raw.wheel.y;
             return event.code != 0;
         case SDL_KEYDOWN:
-        case SDL_KEYUP: return TranslateKey(raw.key, event);
-        case SDL_TEXTINPUT: return TranslateText(raw.text, event);
-        default: return false;
+        case SDL_KEYUP:
+            return TranslateKey(raw.key, event);
+        case SDL_TEXTINPUT:
+            return TranslateText(raw.text, event);
+        default:
+            return false;
     }
 }
 

@@ -32,7 +32,9 @@ COLORREF SetTextColor(HDC hdc, COLORREF clr) { return Exchange(hdc, &DcState::te
 COLORREF GetTextColor(HDC hdc) { return Read(hdc, &DcState::textColor, COLORREF{0}); }
 COLORREF SetBkColor(HDC hdc, COLORREF clr) { return Exchange(hdc, &DcState::bkColor, clr, CLR_INVALID); }
 COLORREF GetBkColor(HDC hdc) { return Read(hdc, &DcState::bkColor, CLR_INVALID); }
-int SetBkMode(HDC hdc, int nMode) { return ExchangeInRange(hdc, &DcState::bkMode, nMode, TRANSPARENT, OPAQUE); }
+int SetBkMode(HDC hdc, int nMode) {
+    return ExchangeInRange(hdc, &DcState::bkMode, nMode, TRANSPARENT, OPAQUE);
+}
 int GetBkMode(HDC hdc) { return Read(hdc, &DcState::bkMode, 0); }
 UINT SetTextAlign(HDC hdc, UINT nAlign) { return Exchange(hdc, &DcState::textAlign, nAlign, GDI_ERROR); }
 UINT GetTextAlign(HDC hdc) { return Read(hdc, &DcState::textAlign, 0u); }

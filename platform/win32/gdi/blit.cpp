@@ -58,13 +58,18 @@ void ForPixels(std::uint32_t* d, const std::uint32_t* s, int count, bool backwar
         for (int i = 0; i < count; ++i) d[i] = operation(s[i], d[i]);
 }
 
-void CombineRow(std::uint32_t* d, const std::uint32_t* s, int count, bool backwards, DWORD rop, std::uint32_t ink) {
+void CombineRow(std::uint32_t* d, const std::uint32_t* s, int count, bool backwards, DWORD rop,
+                std::uint32_t ink) {
     using U = std::uint32_t;
     switch (rop) {
-        case SRCPAINT: return ForPixels(d, s, count, backwards, [](U a, U b) { return (a & kWhitePixel) | b; });
-        case SRCAND: return ForPixels(d, s, count, backwards, [](U a, U b) { return a & b; });
-        case SRCINVERT: return ForPixels(d, s, count, backwards, [](U a, U b) { return (a & kWhitePixel) ^ b; });
-        case NOTSRCCOPY: return ForPixels(d, s, count, backwards, [](U a, U) { return ~a & kWhitePixel; });
+        case SRCPAINT:
+            return ForPixels(d, s, count, backwards, [](U a, U b) { return (a & kWhitePixel) | b; });
+        case SRCAND:
+            return ForPixels(d, s, count, backwards, [](U a, U b) { return a & b; });
+        case SRCINVERT:
+            return ForPixels(d, s, count, backwards, [](U a, U b) { return (a & kWhitePixel) ^ b; });
+        case NOTSRCCOPY:
+            return ForPixels(d, s, count, backwards, [](U a, U) { return ~a & kWhitePixel; });
         default: {
             const unsigned table = TableOf(rop);
             return ForPixels(d, s, count, backwards, [=](U a, U b) { return Combine(table, ink, a, b); });
@@ -105,7 +110,8 @@ Source Snapshot(Surface& surface, const RECT& part, POINT from) {
     SurfaceRef copy = Surface::Create(part.right - part.left, part.bottom - part.top);
     if (!copy) return {nullptr, nullptr, {}};
     for (int y = 0; y < copy->Height(); ++y)
-        std::memcpy(copy->Row32(y), surface.Row32(from.y + y) + from.x, static_cast<std::size_t>(copy->Width()) * 4);
+        std::memcpy(copy->Row32(y), surface.Row32(from.y + y) + from.x,
+                    static_cast<std::size_t>(copy->Width()) * 4);
     Surface* made = copy.get();
     return {made, std::move(copy), {0, 0}};
 }
@@ -126,7 +132,8 @@ void Transfer(DeviceContext& dst, const RECT& wanted, DeviceContext& src, POINT 
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dst).Boxes(count);
     const POINT corner{part.left, part.top};
-    Source source = SourceFor(dst, src, part, {static_cast<int>(part.left + dx), static_cast<int>(part.top + dy)}, count > 1);
+    Source source = SourceFor(dst, src, part,
+                              {static_cast<int>(part.left + dx), static_cast<int>(part.top + dy)}, count > 1);
     if (!source.surface) return;
     for (int i = 0; i < count; ++i) {
         const RECT box = Intersection(part, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});

@@ -6,9 +6,10 @@ using namespace tavlon::win32;
 
 namespace {
 
+/// Answers with the user clip's complexity, whether or not it lies inside the visible part.
 int Applied(DeviceContext& dc) {
     dc.effectiveStale = true;
-    return ClipOf(dc).Complexity();
+    return dc.state.clipped ? dc.state.clip.Complexity() : dc.visible.Complexity();
 }
 
 /// The user clip as a region: what is visible when none was set, counted from the context's origin.
@@ -30,9 +31,15 @@ Region DeviceRegion(const DeviceContext& dc, int left, int top, int right, int b
 bool CombineClip(DeviceContext& dc, const Region& region, int mode) {
     Region& clip = EnsureClip(dc);
     switch (mode) {
-        case RGN_AND: clip.Intersect(region); return true;
-        case RGN_OR: clip.Unite(region); return true;
-        case RGN_DIFF: clip.Subtract(region); return true;
+        case RGN_AND:
+            clip.Intersect(region);
+            return true;
+        case RGN_OR:
+            clip.Unite(region);
+            return true;
+        case RGN_DIFF:
+            clip.Subtract(region);
+            return true;
         case RGN_XOR: {
             Region both = clip;
             both.Intersect(region);
@@ -40,7 +47,8 @@ bool CombineClip(DeviceContext& dc, const Region& region, int mode) {
             clip.Subtract(both);
             return true;
         }
-        default: return false;
+        default:
+            return false;
     }
 }
 

@@ -33,14 +33,19 @@ HGDIOBJ SelectObject(HDC hdc, HGDIOBJ hObject) {
     const GdiObject* object = dc ? ObjectOf(hObject) : nullptr;
     if (!object) return nullptr;
     switch (GetObjectType(hObject)) {
-        case OBJ_PEN: return Exchange(dc->state.pen, hObject);
-        case OBJ_BRUSH: return Exchange(dc->state.brush, hObject);
-        case OBJ_FONT: return Exchange(dc->state.font, hObject);
-        case OBJ_BITMAP: return SelectBitmap(*dc, hObject, *object);
+        case OBJ_PEN:
+            return Exchange(dc->state.pen, hObject);
+        case OBJ_BRUSH:
+            return Exchange(dc->state.brush, hObject);
+        case OBJ_FONT:
+            return Exchange(dc->state.font, hObject);
+        case OBJ_BITMAP:
+            return SelectBitmap(*dc, hObject, *object);
         case OBJ_REGION:
             return reinterpret_cast<HGDIOBJ>(
                 static_cast<ULONG_PTR>(SelectClipRgn(hdc, static_cast<HRGN>(hObject))));
-        default: return nullptr;
+        default:
+            return nullptr;
     }
 }
 
@@ -48,11 +53,17 @@ HGDIOBJ GetCurrentObject(HDC hdc, UINT nType) {
     const DeviceContext* dc = DcOf(hdc);
     if (!dc) return nullptr;
     switch (nType) {
-        case OBJ_PEN: return dc->state.pen;
-        case OBJ_BRUSH: return dc->state.brush;
-        case OBJ_FONT: return dc->state.font;
-        case OBJ_BITMAP: return dc->state.bitmap;
-        case OBJ_PAL: return GetStockObject(DEFAULT_PALETTE);
-        default: return nullptr;
+        case OBJ_PEN:
+            return dc->state.pen;
+        case OBJ_BRUSH:
+            return dc->state.brush;
+        case OBJ_FONT:
+            return dc->state.font;
+        case OBJ_BITMAP:
+            return dc->state.bitmap;
+        case OBJ_PAL:
+            return GetStockObject(DEFAULT_PALETTE);
+        default:
+            return nullptr;
     }
 }

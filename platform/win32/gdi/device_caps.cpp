@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "gdi/device_context.h"
 
 using namespace tavlon::win32;
@@ -7,24 +9,37 @@ namespace {
 constexpr int kDotsPerInch = 96;
 constexpr double kMillimetresPerInch = 25.4;
 
-int Millimetres(int pixels) { return static_cast<int>(pixels * kMillimetresPerInch / kDotsPerInch + 0.5); }
+int Millimetres(int pixels) {
+    return static_cast<int>(std::lround(pixels * kMillimetresPerInch / kDotsPerInch));
+}
 
 }  // namespace
 
 int GetDeviceCaps(HDC hdc, int nIndex) {
     if (!DcOf(hdc)) return 0;
     switch (nIndex) {
-        case DRIVERVERSION: return 0x4000;
-        case TECHNOLOGY: return DT_RASDISPLAY;
-        case HORZSIZE: return Millimetres(GetSystemMetrics(SM_CXSCREEN));
-        case VERTSIZE: return Millimetres(GetSystemMetrics(SM_CYSCREEN));
-        case HORZRES: return GetSystemMetrics(SM_CXSCREEN);
-        case VERTRES: return GetSystemMetrics(SM_CYSCREEN);
-        case BITSPIXEL: return 32;
-        case PLANES: return 1;
-        case NUMCOLORS: return -1;
+        case DRIVERVERSION:
+            return 0x4000;
+        case TECHNOLOGY:
+            return DT_RASDISPLAY;
+        case HORZSIZE:
+            return Millimetres(GetSystemMetrics(SM_CXSCREEN));
+        case VERTSIZE:
+            return Millimetres(GetSystemMetrics(SM_CYSCREEN));
+        case HORZRES:
+            return GetSystemMetrics(SM_CXSCREEN);
+        case VERTRES:
+            return GetSystemMetrics(SM_CYSCREEN);
+        case BITSPIXEL:
+            return 32;
+        case PLANES:
+            return 1;
+        case NUMCOLORS:
+            return -1;
         case LOGPIXELSX:
-        case LOGPIXELSY: return kDotsPerInch;
-        default: return 0;
+        case LOGPIXELSY:
+            return kDotsPerInch;
+        default:
+            return 0;
     }
 }

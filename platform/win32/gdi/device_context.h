@@ -70,6 +70,8 @@ const LOGFONTA& FontDescription(const DeviceContext& dc);
 /// The pixel that a colour becomes on the context's surface: 0x00RRGGBB, or all clear / all set where pixels
 /// are single bits.
 std::uint32_t PixelOf(const DeviceContext& dc, COLORREF colour);
+/// The same for pens and text, which on single bits stand out from the background colour.
+std::uint32_t InkPixelOf(const DeviceContext& dc, COLORREF colour);
 
 /// Fills `rect` (surface pixels) with a colour, clipped; no raster operation. Notes the damage.
 void FillDeviceRect(DeviceContext& dc, const RECT& rect, COLORREF colour);

@@ -14,8 +14,8 @@ std::optional<DibFormat> ReadDibHeader(const BITMAPINFOHEADER& header) {
     const bool known = bits == 1 || bits == 4 || bits == 8 || bits == 24 || bits == 32;
     if (header.biSize < sizeof header || header.biPlanes != 1 || !known || header.biCompression != BI_RGB)
         return std::nullopt;
-    if (header.biWidth < 1 || header.biWidth > kMaxSide || header.biHeight == 0 || header.biHeight > kMaxSide ||
-        header.biHeight < -kMaxSide)
+    if (header.biWidth < 1 || header.biWidth > kMaxSide || header.biHeight == 0 ||
+        header.biHeight > kMaxSide || header.biHeight < -kMaxSide)
         return std::nullopt;
     return DibFormat{header.biWidth, std::abs(header.biHeight), header.biHeight < 0, bits};
 }

@@ -25,7 +25,8 @@ std::array<RGBQUAD, 256> ReadPalette(const BITMAPINFO& info) {
 
 void LoadDib(Surface& surface, const DibFormat& format, const std::uint8_t* bits, const BITMAPINFO& info) {
     const auto palette = ReadPalette(info);
-    const int width = std::min(format.width, surface.Width()), height = std::min(format.height, surface.Height());
+    const int width = std::min(format.width, surface.Width()),
+              height = std::min(format.height, surface.Height());
     for (int y = 0; y < height; ++y) {
         const std::uint8_t* source = bits + format.RowBytes() * static_cast<std::size_t>(format.RowIndex(y));
         std::uint32_t* row = surface.Row32(y);
@@ -33,7 +34,8 @@ void LoadDib(Surface& surface, const DibFormat& format, const std::uint8_t* bits
     }
 }
 
-void StoreRow(const Surface& surface, const std::uint32_t* pixels, std::uint8_t* out, const DibFormat& format) {
+void StoreRow(const Surface& surface, const std::uint32_t* pixels, std::uint8_t* out,
+              const DibFormat& format) {
     const int width = std::min(format.width, surface.Width());
     if (format.bitsPerPixel == 32) return void(std::memcpy(out, pixels, static_cast<std::size_t>(width) * 4));
     for (int x = 0; x < width; ++x, out += 3)
@@ -92,7 +94,8 @@ int GetDIBits(HDC hdc, HBITMAP hBitmap, UINT nStart, UINT nLines, LPVOID pBits, 
     }
     const auto format = ReadDibHeader(pInfo->bmiHeader);
     if (!format || format->bitsPerPixel < 24) return 0;
-    pInfo->bmiHeader.biSizeImage = static_cast<DWORD>(format->RowBytes() * static_cast<std::size_t>(format->height));
+    pInfo->bmiHeader.biSizeImage =
+        static_cast<DWORD>(format->RowBytes() * static_cast<std::size_t>(format->height));
     const UINT total = static_cast<UINT>(std::min(format->height, surface->Height()));
     const UINT count = nStart >= total ? 0 : std::min(nLines, total - nStart);
     if (!pBits) return static_cast<int>(total);
@@ -100,7 +103,8 @@ int GetDIBits(HDC hdc, HBITMAP hBitmap, UINT nStart, UINT nLines, LPVOID pBits, 
         // Scan lines count from the bottom of a bottom-up picture, from the top of a top-down one.
         const int line = static_cast<int>(nStart + i);
         const int y = format->topDown ? line : surface->Height() - 1 - line;
-        StoreRow(*surface, surface->Row32(y), static_cast<std::uint8_t*>(pBits) + format->RowBytes() * i, *format);
+        StoreRow(*surface, surface->Row32(y), static_cast<std::uint8_t*>(pBits) + format->RowBytes() * i,
+                 *format);
     }
     return static_cast<int>(count);
 }

@@ -11,7 +11,8 @@ namespace {
 const BrushObject* BrushOf(HBRUSH hBrush) {
     if (const auto* brush = ObjectAs<BrushObject>(hBrush)) return brush;
     const auto value = reinterpret_cast<ULONG_PTR>(hBrush);
-    return value >= 1 && value <= 31 ? ObjectAs<BrushObject>(GetSysColorBrush(static_cast<int>(value) - 1)) : nullptr;
+    return value >= 1 && value <= 31 ? ObjectAs<BrushObject>(GetSysColorBrush(static_cast<int>(value) - 1))
+                                     : nullptr;
 }
 
 void FillSurfaceRect(DeviceContext& dc, const RECT& rect, const BrushObject& brush) {
@@ -51,9 +52,13 @@ int FrameRect(HDC hdc, const RECT* pRect, HBRUSH hBrush) {
     DeviceContext* dc = DcOf(hdc);
     const BrushObject* brush = dc ? BrushOf(hBrush) : nullptr;
     if (!brush || !pRect || IsEmpty(*pRect)) return 0;
-    const RECT r = ToSurface(*dc, *pRect);
-    for (const RECT& side : {RECT{r.left, r.top, r.left + 1, r.bottom}, RECT{r.right - 1, r.top, r.right, r.bottom},
-                             RECT{r.left, r.top, r.right, r.top + 1}, RECT{r.left, r.bottom - 1, r.right, r.bottom}})
+    const RECT whole = ToSurface(*dc, *pRect);
+    const RECT inner{Saturate(std::int64_t{whole.left} + 1), Saturate(std::int64_t{whole.top} + 1),
+                     Saturate(std::int64_t{whole.right} - 1), Saturate(std::int64_t{whole.bottom} - 1)};
+    for (const RECT& side : {RECT{whole.left, whole.top, inner.left, whole.bottom},
+                             RECT{inner.right, whole.top, whole.right, whole.bottom},
+                             RECT{whole.left, whole.top, whole.right, inner.top},
+                             RECT{whole.left, inner.bottom, whole.right, whole.bottom}})
         FillSurfaceRect(*dc, side, *brush);
     return 1;
 }

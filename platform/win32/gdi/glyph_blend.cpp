@@ -35,14 +35,13 @@ void BlendCoverage(DeviceContext& dc, int x, int y, int width, int height, const
                    COLORREF colour) {
     const RECT place = FromSize(x, y, width, height);
     if (!coverage || !MayDraw(dc, place)) return;
-    const std::uint32_t ink = PixelOf(dc, colour);
+    const std::uint32_t ink = InkPixelOf(dc, colour);
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dc).Boxes(count);
     for (int i = 0; i < count; ++i) {
         const RECT part = Intersection(place, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});
         if (IsEmpty(part)) continue;
-        const std::ptrdiff_t skip =
-            (std::ptrdiff_t{part.top} - y) * width + (std::ptrdiff_t{part.left} - x);
+        const std::ptrdiff_t skip = (std::ptrdiff_t{part.top} - y) * width + (std::ptrdiff_t{part.left} - x);
         BlendBox(*dc.surface, part, coverage + skip, width, ink);
     }
     NoteDamage(dc, place);

@@ -18,10 +18,12 @@ void FillPolygon(DeviceContext& dc, std::span<const POINT> points) {
     const auto stamp = BrushStamp(dc);
     if (!stamp || points.size() < 3) return;
     Painter painter(dc, *stamp);
-    RECT touched{painter.Bounds().right, painter.Bounds().bottom, painter.Bounds().left, painter.Bounds().top};
+    RECT touched{painter.Bounds().right, painter.Bounds().bottom, painter.Bounds().left,
+                 painter.Bounds().top};
     ScanPolygon(painter.Bounds(), points, dc.state.polyFillMode, [&](int y, int left, int right) {
         painter.Span(y, left, right);
-        touched = {std::min(touched.left, left), std::min(touched.top, y), std::max(touched.right, right), y + 1};
+        touched = {std::min(touched.left, left), std::min(touched.top, y), std::max(touched.right, right),
+                   y + 1};
     });
     NoteDamage(dc, touched);
 }
@@ -33,7 +35,8 @@ using namespace tavlon::win32;
 BOOL LineTo(HDC hdc, int x, int y) {
     DeviceContext* dc = DcOf(hdc);
     if (!dc) return FALSE;
-    const std::array ends = {ToSurface(*dc, dc->state.position.x, dc->state.position.y), ToSurface(*dc, x, y)};
+    const std::array ends = {ToSurface(*dc, dc->state.position.x, dc->state.position.y),
+                             ToSurface(*dc, x, y)};
     dc->state.position = {x, y};
     StrokePath(*dc, ends);
     return TRUE;

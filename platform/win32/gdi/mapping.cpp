@@ -5,7 +5,9 @@ using namespace tavlon::win32;
 
 namespace {
 
-int WrappingAdd(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b)); }
+int WrappingAdd(int a, int b) {
+    return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
+}
 
 BOOL ReadPoint(HDC hdc, POINT DcState::*member, LPPOINT pPoint) {
     const DeviceContext* dc = DcOf(hdc);
@@ -48,6 +50,8 @@ BOOL SetWindowOrgEx(HDC hdc, int x, int y, LPPOINT pOld) {
 }
 BOOL GetWindowOrgEx(HDC hdc, LPPOINT pPoint) { return ReadPoint(hdc, &DcState::windowOrg, pPoint); }
 BOOL GetCurrentPositionEx(HDC hdc, LPPOINT pPoint) { return ReadPoint(hdc, &DcState::position, pPoint); }
-BOOL MoveToEx(HDC hdc, int x, int y, LPPOINT pOld) { return WritePoint(hdc, &DcState::position, {x, y}, pOld); }
+BOOL MoveToEx(HDC hdc, int x, int y, LPPOINT pOld) {
+    return WritePoint(hdc, &DcState::position, {x, y}, pOld);
+}
 BOOL DPtoLP(HDC hdc, LPPOINT pPoints, int nCount) { return MapPoints(hdc, pPoints, nCount, -1); }
 BOOL LPtoDP(HDC hdc, LPPOINT pPoints, int nCount) { return MapPoints(hdc, pPoints, nCount, 1); }

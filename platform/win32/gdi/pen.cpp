@@ -16,11 +16,16 @@ std::span<const int> DashPattern(int style) {
     static constexpr std::array kDashDot = {9, 6, 3, 6};
     static constexpr std::array kDashDotDot = {9, 3, 3, 3, 3, 3};
     switch (style) {
-        case PS_DASH: return kDash;
-        case PS_DOT: return kDot;
-        case PS_DASHDOT: return kDashDot;
-        case PS_DASHDOTDOT: return kDashDotDot;
-        default: return {};
+        case PS_DASH:
+            return kDash;
+        case PS_DOT:
+            return kDot;
+        case PS_DASHDOT:
+            return kDashDot;
+        case PS_DASHDOTDOT:
+            return kDashDotDot;
+        default:
+            return {};
     }
 }
 
@@ -28,9 +33,9 @@ std::span<const int> DashPattern(int style) {
 class ThinPen {
 public:
     ThinPen(DeviceContext& dc, const PenObject& pen)
-        : m_painter(dc, StampOf(dc, pen.colour)),
-          m_ink(StampOf(dc, pen.colour)),
-          m_gapInk(StampOf(dc, dc.state.bkColor)),
+        : m_painter(dc, PenStampOf(dc, pen.colour)),
+          m_ink(PenStampOf(dc, pen.colour)),
+          m_gapInk(PenStampOf(dc, dc.state.bkColor)),
           m_pattern(DashPattern(pen.style)),
           m_gapsDrawn(dc.state.bkMode == OPAQUE) {
         for (const int length : m_pattern) m_period += length;
@@ -43,7 +48,8 @@ public:
             else
                 Dashes(run);
         });
-        const std::int64_t dx = std::abs(std::int64_t{to.x} - from.x), dy = std::abs(std::int64_t{to.y} - from.y);
+        const std::int64_t dx = std::abs(std::int64_t{to.x} - from.x),
+                           dy = std::abs(std::int64_t{to.y} - from.y);
         m_offset += std::max(dx, dy);
     }
 
@@ -85,7 +91,8 @@ private:
 RECT Around(std::span<const POINT> points, int margin) {
     RECT box{points[0].x, points[0].y, points[0].x, points[0].y};
     for (const POINT& p : points)
-        box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x), std::max(box.bottom, p.y)};
+        box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x),
+               std::max(box.bottom, p.y)};
     return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
             Saturate(std::int64_t{box.right} + margin + 1), Saturate(std::int64_t{box.bottom} + margin + 1)};
 }
@@ -95,7 +102,9 @@ void Stroke(DeviceContext& dc, std::span<const POINT> points, bool closed) {
     if (!pen || points.size() < 2) return;
     const RECT touched = Around(points, pen->width);
     if (!MayDraw(dc, touched)) return;
-    if (pen->width > 1) return PaintRegion(dc, WideLine(ClipBounds(dc), points, closed, pen->width), StampOf(dc, pen->colour));
+    if (pen->width > 1)
+        return PaintRegion(dc, WideLine(ClipBounds(dc), points, closed, pen->width),
+                           PenStampOf(dc, pen->colour));
     ThinPen thin(dc, *pen);
     for (std::size_t i = 0; i + 1 < points.size(); ++i) thin.Line(points[i], points[i + 1]);
     if (closed) thin.Line(points.back(), points.front());

@@ -8,7 +8,9 @@ using namespace tavlon::win32;
 
 namespace {
 
-int SafeAbs(int value) { return value == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : std::abs(value); }
+int SafeAbs(int value) {
+    return value == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : std::abs(value);
+}
 
 void CopyFaceName(LOGFONTA& font, const char* pszName) {
     const std::size_t length = pszName ? strnlen(pszName, LF_FACESIZE - 1) : 0;

@@ -25,6 +25,10 @@ Stamp StampOf(const DeviceContext& dc, COLORREF colour) {
     return MakeStamp(static_cast<unsigned>(dc.state.rop2 - 1), PixelOf(dc, colour));
 }
 
+Stamp PenStampOf(const DeviceContext& dc, COLORREF colour) {
+    return MakeStamp(static_cast<unsigned>(dc.state.rop2 - 1), InkPixelOf(dc, colour));
+}
+
 Painter::Painter(DeviceContext& dc, Stamp stamp)
     : m_surface(*dc.surface), m_stamp(stamp), m_boxes(ClipOf(dc).Boxes(m_count)), m_bounds(ClipBounds(dc)) {}
 
@@ -34,7 +38,8 @@ void Painter::Rect(const RECT& rect) {
     if (m_count == 1) return PaintBox(wanted);
     const auto* end = m_boxes + m_count;
     const auto above = [](const pixman_box32_t& box, int top) { return box.y2 <= top; };
-    for (auto* box = std::lower_bound(m_boxes, end, wanted.top, above); box != end && box->y1 < wanted.bottom; ++box) {
+    for (auto* box = std::lower_bound(m_boxes, end, wanted.top, above); box != end && box->y1 < wanted.bottom;
+         ++box) {
         const RECT part = Intersection(wanted, RectOf(*box));
         if (!IsEmpty(part)) PaintBox(part);
     }

@@ -22,6 +22,7 @@ struct Stamp {
 Stamp MakeStamp(unsigned table, std::uint32_t ink);
 /// The ink of a colour under the context's ROP2.
 Stamp StampOf(const DeviceContext& dc, COLORREF colour);
+Stamp PenStampOf(const DeviceContext& dc, COLORREF colour);
 
 /// Paints rectangles inside a device context's clip. Built once for an operation.
 class Painter {

@@ -6,9 +6,13 @@ namespace win32 = tavlon::win32;
 
 namespace {
 
-int WrappingAdd(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b)); }
+int WrappingAdd(int a, int b) {
+    return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
+}
 
-int WrappingSub(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b)); }
+int WrappingSub(int a, int b) {
+    return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
+}
 
 /// What is left of `whole` when `part`, which lies inside it and reaches two opposite edges, is cut off.
 RECT Remainder(const RECT& whole, const RECT& part) {
@@ -54,14 +58,14 @@ BOOL PtInRect(const RECT* pRect, POINT pt) { return pRect && win32::Inside(*pRec
 
 BOOL InflateRect(LPRECT pRect, int dx, int dy) {
     if (!pRect) return FALSE;
-    return SetRect(pRect, WrappingSub(pRect->left, dx), WrappingSub(pRect->top, dy), WrappingAdd(pRect->right, dx),
-                   WrappingAdd(pRect->bottom, dy));
+    return SetRect(pRect, WrappingSub(pRect->left, dx), WrappingSub(pRect->top, dy),
+                   WrappingAdd(pRect->right, dx), WrappingAdd(pRect->bottom, dy));
 }
 
 BOOL OffsetRect(LPRECT pRect, int dx, int dy) {
     if (!pRect) return FALSE;
-    return SetRect(pRect, WrappingAdd(pRect->left, dx), WrappingAdd(pRect->top, dy), WrappingAdd(pRect->right, dx),
-                   WrappingAdd(pRect->bottom, dy));
+    return SetRect(pRect, WrappingAdd(pRect->left, dx), WrappingAdd(pRect->top, dy),
+                   WrappingAdd(pRect->right, dx), WrappingAdd(pRect->bottom, dy));
 }
 
 BOOL IntersectRect(LPRECT pDst, const RECT* pSrc1, const RECT* pSrc2) {

@@ -4,10 +4,22 @@
 
 namespace tavlon::win32 {
 
+namespace {
+constexpr RECT kReach{-kRegionReach, -kRegionReach, kRegionReach, kRegionReach};
+}
+
 void Region::Set(const RECT& rect) {
-    if (IsEmpty(rect)) return Clear();
-    const pixman_box32_t box{rect.left, rect.top, rect.right, rect.bottom};
-    pixman_region32_reset(&m_region, const_cast<pixman_box32_t*>(&box));
+    const RECT cut = Intersection(rect, kReach);
+    if (IsEmpty(cut)) return Clear();
+    pixman_box32_t box{cut.left, cut.top, cut.right, cut.bottom};
+    pixman_region32_reset(&m_region, &box);
+}
+
+void Region::Translate(int dx, int dy) {
+    constexpr int kFarthest = 2 * kRegionReach;  // everything is out of reach by then
+    pixman_region32_translate(&m_region, std::clamp(dx, -kFarthest, kFarthest),
+                              std::clamp(dy, -kFarthest, kFarthest));
+    if (!Covers(kReach, Bounds())) Intersect(Region(kReach));
 }
 
 RECT Region::Bounds() const {

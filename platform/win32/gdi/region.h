@@ -6,6 +6,9 @@
 
 namespace tavlon::win32 {
 
+/// Coordinates of regions are kept within this distance of the origin, so that moving one cannot overflow.
+constexpr int kRegionReach = 1 << 27;
+
 class Region {
 public:
     Region() { pixman_region32_init(&m_region); }
@@ -18,24 +21,30 @@ public:
     }
     ~Region() { pixman_region32_fini(&m_region); }
 
-    /// Becomes the rectangle; empty when the rectangle has no area.
+    /// Becomes the rectangle, cut to the reach of regions; empty when the rectangle has no area.
     void Set(const RECT& rect);
     void Clear() { pixman_region32_clear(&m_region); }
     void Copy(const pixman_region32_t& region) { pixman_region32_copy(&m_region, Mutable(region)); }
 
     bool Empty() const { return !pixman_region32_not_empty(Mutable(m_region)); }
-    RECT Bounds() const;                           ///< All zero when empty.
-    const pixman_box32_t* Boxes(int& count) const; ///< Sorted by top, then left.
-    bool Contains(int x, int y) const { return pixman_region32_contains_point(Mutable(m_region), x, y, nullptr); }
+    RECT Bounds() const;                            ///< All zero when empty.
+    const pixman_box32_t* Boxes(int& count) const;  ///< Sorted by top, then left.
+    bool Contains(int x, int y) const {
+        return pixman_region32_contains_point(Mutable(m_region), x, y, nullptr);
+    }
     bool Touches(const RECT& rect) const;
     bool operator==(const Region& other) const {
         return pixman_region32_equal(Mutable(m_region), Mutable(other.m_region));
     }
 
-    void Intersect(const Region& other) { pixman_region32_intersect(&m_region, &m_region, Mutable(other.m_region)); }
+    void Intersect(const Region& other) {
+        pixman_region32_intersect(&m_region, &m_region, Mutable(other.m_region));
+    }
     void Unite(const Region& other) { pixman_region32_union(&m_region, &m_region, Mutable(other.m_region)); }
-    void Subtract(const Region& other) { pixman_region32_subtract(&m_region, &m_region, Mutable(other.m_region)); }
-    void Translate(int dx, int dy) { pixman_region32_translate(&m_region, dx, dy); }
+    void Subtract(const Region& other) {
+        pixman_region32_subtract(&m_region, &m_region, Mutable(other.m_region));
+    }
+    void Translate(int dx, int dy);  ///< What leaves the reach of coordinates is lost.
 
     /// NULLREGION, SIMPLEREGION or COMPLEXREGION.
     int Complexity() const;

@@ -16,7 +16,7 @@ using namespace tavlon::win32;
 namespace {
 
 /// Shapes are cut to this square around the origin, which is far larger than any surface.
-constexpr int kReach = 1 << 17;
+constexpr int kReach = 1 << 16;
 constexpr RECT kShapeBounds{-kReach, -kReach, kReach, kReach};
 
 Region* RegionFor(HRGN hRgn) {
@@ -64,7 +64,7 @@ HRGN CreateEllipticRgnIndirect(const RECT* pRect) {
 }
 
 HRGN CreatePolygonRgn(const POINT* pPoints, int nCount, int nMode) {
-    if (!pPoints || nCount < 1 || (nMode != ALTERNATE && nMode != WINDING)) {
+    if (!pPoints || nCount < 1) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <span>
@@ -36,6 +37,8 @@ void ScanPolygon(const RECT& bounds, std::span<const POINT> points, int mode, co
 class RegionBuilder {
 public:
     void Span(int y, int left, int right) {
+        left = std::max(left, -kRegionReach);
+        right = std::min(right, kRegionReach);
         if (left < right) m_boxes.push_back({left, y, right, y + 1});
     }
     SpanSink Sink() {

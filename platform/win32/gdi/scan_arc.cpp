@@ -27,7 +27,8 @@ class Chain {
 public:
     Chain(std::int64_t width, std::int64_t height) : m_width(width), m_height(height) {
         const std::vector<POINT> quadrant = QuadrantPoints();
-        for (const int which : {kTopRight, kTopLeft, kBottomLeft, kBottomRight}) Append(quadrant, Quadrant(which));
+        for (const int which : {kTopRight, kTopLeft, kBottomLeft, kBottomRight})
+            Append(quadrant, Quadrant(which));
     }
 
     const std::vector<ChainPoint>& Points() const { return m_points; }
@@ -35,7 +36,8 @@ public:
     /// The first point that the ray towards (dx, dy) from the centre meets or leaves behind.
     std::size_t Find(std::int64_t dx, std::int64_t dy) const {
         const bool right = dx >= 0, bottom = dy > 0;
-        const Quadrant quadrant = bottom ? (right ? kBottomRight : kBottomLeft) : (right ? kTopRight : kTopLeft);
+        const Quadrant quadrant =
+            bottom ? (right ? kBottomRight : kBottomLeft) : (right ? kTopRight : kTopLeft);
         const auto reached = [&](const ChainPoint& point) {
             return point.quadrant > quadrant || (point.quadrant == quadrant && Passed(point, dx, dy));
         };
@@ -52,8 +54,9 @@ private:
         constexpr int kChords = 1024;
         for (int i = 0; i <= kChords; ++i) {
             const double angle = std::numbers::pi / 2 * i / kChords;
-            points.push_back({Saturate(static_cast<std::int64_t>((m_width - 1) / 2.0 * (1 - std::cos(angle)))),
-                              Saturate(static_cast<std::int64_t>((m_height - 1) / 2.0 * (1 - std::sin(angle))))});
+            points.push_back(
+                {Saturate(static_cast<std::int64_t>((m_width - 1) / 2.0 * (1 - std::cos(angle)))),
+                 Saturate(static_cast<std::int64_t>((m_height - 1) / 2.0 * (1 - std::sin(angle))))});
         }
         return points;
     }
@@ -62,7 +65,8 @@ private:
         const bool backwards = quadrant == kTopLeft || quadrant == kBottomRight;
         for (std::size_t i = 0; i < quarter.size(); ++i) {
             const POINT p = Mirrored(quarter[backwards ? quarter.size() - 1 - i : i], quadrant);
-            const bool repeated = !m_points.empty() && m_points.back().pixel.x == p.x && m_points.back().pixel.y == p.y;
+            const bool repeated =
+                !m_points.empty() && m_points.back().pixel.x == p.x && m_points.back().pixel.y == p.y;
             if (!repeated) m_points.push_back({p, quadrant});
         }
     }
@@ -73,16 +77,21 @@ private:
         return p;
     }
 
-    /// Whether a point of the ray's own quadrant is on the ray or behind it. All quadrants are measured in the
-    /// bottom right one, where the outline is nearest to the centre; in the lower half, on the ray is not behind.
+    /// Whether a point of the ray's own quadrant is on the ray or behind it. All quadrants are measured in
+    /// the bottom right one, where the outline is nearest to the centre; in the lower half, on the ray is not
+    /// behind.
     bool Passed(const ChainPoint& point, std::int64_t dx, std::int64_t dy) const {
         const POINT p = Mirrored(Mirrored(point.pixel, point.quadrant), kBottomRight);
         const Wide across = Wide(p.y - m_height / 2) * std::abs(dx) - Wide(p.x - m_width / 2) * std::abs(dy);
         switch (point.quadrant) {
-            case kTopRight: return across >= 0;
-            case kTopLeft: return across <= 0;
-            case kBottomLeft: return across > 0;
-            default: return across < 0;
+            case kTopRight:
+                return across >= 0;
+            case kTopLeft:
+                return across <= 0;
+            case kBottomLeft:
+                return across > 0;
+            default:
+                return across < 0;
         }
     }
 
@@ -100,7 +109,9 @@ POINT ArcCentre(const RECT& box) {
 std::vector<POINT> ScanArc(const RECT& box, POINT start, POINT end) {
     const Chain chain(std::int64_t{box.right} - box.left, std::int64_t{box.bottom} - box.top);
     const POINT centre = ArcCentre(box);
-    const auto find = [&](POINT p) { return chain.Find(std::int64_t{p.x} - centre.x, std::int64_t{p.y} - centre.y); };
+    const auto find = [&](POINT p) {
+        return chain.Find(std::int64_t{p.x} - centre.x, std::int64_t{p.y} - centre.y);
+    };
     const auto& points = chain.Points();
     const std::size_t first = find(start);
     std::size_t last = find(end);

@@ -12,11 +12,12 @@ namespace {
 constexpr OutlineRow kNoPixels{0, -1};
 
 /// Rows from the middle of an ellipse to its top, the outline followed by the sign of the ellipse's equation:
-/// from every pixel the next is beside it, above it or both, whichever keeps the error between the bounds that
-/// a step sideways and a step up would set.
+/// from every pixel the next is beside it, above it or both, whichever keeps the error between the bounds
+/// that a step sideways and a step up would set.
 class Walker {
 public:
-    Walker(std::int64_t width, std::int64_t height) : m_a(width - 1), m_b(height - 1), m_row((m_b + 1) / 2 - (m_b & 1)) {
+    Walker(std::int64_t width, std::int64_t height)
+        : m_a(width - 1), m_b(height - 1), m_row((m_b + 1) / 2 - (m_b & 1)) {
         const std::int64_t odd = m_b & 1;
         m_sideways = 4 * (1 - m_a) * m_b * m_b;
         m_up = 4 * (odd + 1) * m_a * m_a;
@@ -68,7 +69,8 @@ void EllipseRows::Walk() {
 OutlineRow EllipseRows::Compute(std::int64_t row) const {
     const auto edge = [this](double y) {
         const double b = m_height / 2.0, t = std::clamp((b - y) / b, -1.0, 1.0);
-        return static_cast<int>(std::clamp(m_width / 2.0 * (1 - std::sqrt(1 - t * t)), 0.0, (m_width - 1) / 2.0));
+        return static_cast<int>(
+            std::clamp(m_width / 2.0 * (1 - std::sqrt(1 - t * t)), 0.0, (m_width - 1) / 2.0));
     };
     const double mirrored = static_cast<double>(std::min(row, m_height - 1 - row));
     return {edge(mirrored + 1), std::max(edge(mirrored + 1), edge(mirrored))};
@@ -96,7 +98,8 @@ void ForRows(const RECT& bounds, const RECT& box, Visit visit) {
 }  // namespace
 
 void ScanEllipse(const RECT& bounds, const RECT& box, const SpanSink& sink) {
-    ForRows(bounds, box, [&](int y, OutlineRow row) { sink(y, box.left + row.first, box.right - row.first); });
+    ForRows(bounds, box,
+            [&](int y, OutlineRow row) { sink(y, box.left + row.first, box.right - row.first); });
 }
 
 void ScanEllipseOutline(const RECT& bounds, const RECT& box, const SpanSink& sink) {

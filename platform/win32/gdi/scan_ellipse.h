@@ -15,8 +15,8 @@ struct OutlineRow {
     bool Any() const { return first <= last; }
 };
 
-/// The outline from the middle of the left edge to the middle of the top edge, pixel by pixel, counted from the
-/// left and from the top. Neither side may be beyond kLargestEllipseWalk.
+/// The outline from the middle of the left edge to the middle of the top edge, pixel by pixel, counted from
+/// the left and from the top. Neither side may be beyond kLargestEllipseWalk.
 std::vector<POINT> EllipseQuadrant(int width, int height);
 constexpr std::int64_t kLargestEllipseWalk = 1 << 14;
 

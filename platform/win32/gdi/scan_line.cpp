@@ -46,21 +46,37 @@ void Narrow(std::int64_t& first, std::int64_t& last, int direction, int low, int
     last = FirstStep(first, last, beyond);
 }
 
-/// First step after `step` whose minor coordinate differs, at most `last`.
-std::int64_t RunEnd(const Walk& walk, std::int64_t step, std::int64_t last) {
-    if (walk.minorLength == 0) return last;
-    // Offset(i) > n exactly when 2 i minor + major - bias >= 2 major (n + 1).
-    const Wide bias = walk.minorDirection > 0 ? 1 : 0;
-    const Wide needed = Wide{2} * walk.majorLength * (walk.Offset(step) + 1) - walk.majorLength + bias;
-    const Wide end = (needed + 2 * walk.minorLength - 1) / (2 * walk.minorLength);
-    return static_cast<std::int64_t>(std::min<Wide>(end, last));
-}
+/// Splits a walk into runs of one minor coordinate, with one division each.
+class Runs {
+public:
+    Runs(const Walk& walk, std::int64_t first) : m_walk(walk), m_step(first), m_offset(walk.Offset(first)) {
+        const Wide doubled =
+            Wide{2} * first * walk.minorLength + walk.majorLength - (walk.minorDirection > 0 ? 1 : 0);
+        m_rest = static_cast<std::int64_t>(doubled - Wide{2} * walk.majorLength * m_offset);
+    }
+    std::int64_t Step() const { return m_step; }
+    int Minor() const { return static_cast<int>(m_walk.minorStart + m_walk.minorDirection * m_offset); }
 
-RECT RunRect(const Walk& walk, bool steep, std::int64_t first, std::int64_t last) {
-    const std::int64_t a = walk.Major(first), b = walk.Major(last - 1), minor = walk.Minor(first);
+    /// Moves on to the step at which the minor coordinate changes, at most `last`; answers that step.
+    std::int64_t Next(std::int64_t last) {
+        if (m_walk.minorLength == 0) return m_step = last;
+        const std::int64_t doubledMajor = 2 * m_walk.majorLength, doubledMinor = 2 * m_walk.minorLength;
+        const std::int64_t steps = (doubledMajor - m_rest + doubledMinor - 1) / doubledMinor;
+        m_rest += steps * doubledMinor - doubledMajor;
+        ++m_offset;
+        return m_step = std::min(m_step + steps, last);
+    }
+
+private:
+    const Walk& m_walk;
+    std::int64_t m_step, m_offset;
+    std::int64_t m_rest;  ///< How far the doubled offset is past a whole pixel, in units of 1 / (2 major).
+};
+
+RECT RunRect(const Walk& walk, bool steep, std::int64_t first, std::int64_t last, int minor) {
+    const std::int64_t a = walk.Major(first), b = walk.Major(last - 1);
     const int low = static_cast<int>(std::min(a, b)), high = static_cast<int>(std::max(a, b) + 1);
-    const int at = static_cast<int>(minor);
-    return steep ? RECT{at, low, at + 1, high} : RECT{low, at, high, at + 1};
+    return steep ? RECT{minor, low, minor + 1, high} : RECT{low, minor, high, minor + 1};
 }
 
 }  // namespace
@@ -76,10 +92,10 @@ void ScanLine(const RECT& bounds, POINT from, POINT to, const LineRunSink& sink)
     std::int64_t first = 0, last = walk.majorLength;
     Narrow(first, last, walk.majorDirection, b.left, b.right, [&](std::int64_t i) { return walk.Major(i); });
     Narrow(first, last, walk.minorDirection, b.top, b.bottom, [&](std::int64_t i) { return walk.Minor(i); });
-    while (first < last) {
-        const std::int64_t end = RunEnd(walk, first, last);
-        sink({RunRect(walk, steep, first, end), first, walk.majorDirection > 0});
-        first = end;
+    for (Runs runs(walk, first); runs.Step() < last;) {
+        const std::int64_t begin = runs.Step();
+        const int minor = runs.Minor();
+        sink({RunRect(walk, steep, begin, runs.Next(last), minor), begin, walk.majorDirection > 0});
     }
 }
 

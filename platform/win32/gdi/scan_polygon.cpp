@@ -87,7 +87,8 @@ void ScanPolygon(const RECT& bounds, std::span<const POINT> points, int mode, co
 
 Region RegionBuilder::Build() const {
     pixman_region32_t raw;
-    if (m_boxes.empty() || !pixman_region32_init_rects(&raw, m_boxes.data(), static_cast<int>(m_boxes.size())))
+    if (m_boxes.empty() ||
+        !pixman_region32_init_rects(&raw, m_boxes.data(), static_cast<int>(m_boxes.size())))
         return Region();
     Region region(raw);
     pixman_region32_fini(&raw);

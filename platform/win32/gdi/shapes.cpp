@@ -10,7 +10,8 @@ using namespace tavlon::win32;
 
 namespace {
 
-RECT Shrunk(const RECT& rect, int by) { return {rect.left + by, rect.top + by, rect.right - by, rect.bottom - by}; }
+/// What is left inside a border of one pixel; not for empty rectangles.
+RECT InsideBorder(const RECT& r) { return {r.left + 1, r.top + 1, r.right - 1, r.bottom - 1}; }
 
 /// The pixels that a shape's box holds. A wide pen of style PS_INSIDEFRAME is drawn further inside.
 RECT CurveBox(const DeviceContext& dc, const RECT& logical) {
@@ -26,7 +27,8 @@ RECT CurveBox(const DeviceContext& dc, const RECT& logical) {
 /// The same for a rectangle, which is a pixel smaller without a pen to draw its border.
 RECT ShapeBox(const DeviceContext& dc, const RECT& logical) {
     RECT box = CurveBox(dc, logical);
-    if (VisiblePen(dc)) return box;
+    const bool bordered = VisiblePen(dc) != nullptr;
+    if (bordered || IsEmpty(box)) return box;
     --box.right;
     --box.bottom;
     return box;
@@ -53,13 +55,13 @@ BOOL Rectangle(HDC hdc, int nLeft, int nTop, int nRight, int nBottom) {
     const RECT box = ShapeBox(*dc, {nLeft, nTop, nRight, nBottom});
     if (IsEmpty(box)) return TRUE;
     const PenObject* pen = VisiblePen(*dc);
-    const RECT inside = pen && pen->width <= 1 ? Shrunk(box, 1) : box;
+    const RECT inside = pen && pen->width <= 1 ? InsideBorder(box) : box;
     if (const auto stamp = BrushStamp(*dc); stamp && MayDraw(*dc, inside)) {
         Painter(*dc, *stamp).Rect(inside);
         NoteDamage(*dc, inside);
     }
-    const std::array corners = {POINT{box.right - 1, box.top}, POINT{box.left, box.top}, POINT{box.left, box.bottom - 1},
-                                POINT{box.right - 1, box.bottom - 1}};
+    const std::array corners = {POINT{box.right - 1, box.top}, POINT{box.left, box.top},
+                                POINT{box.left, box.bottom - 1}, POINT{box.right - 1, box.bottom - 1}};
     StrokeClosed(*dc, corners);
     return TRUE;
 }
@@ -78,7 +80,7 @@ BOOL Ellipse(HDC hdc, int nLeft, int nTop, int nRight, int nBottom) {
     if (pen && pen->width > 1) {
         StrokeClosed(*dc, ScanArc(box, {box.right, box.top}, {box.right, box.top}));
     } else if (pen) {
-        Painter painter(*dc, StampOf(*dc, pen->colour));
+        Painter painter(*dc, PenStampOf(*dc, pen->colour));
         ScanEllipseOutline(painter.Bounds(), box, painter.Sink());
     }
     NoteDamage(*dc, box);

@@ -1,97 +1,113 @@
-#include <optional>
+#include "gdi/stretch.h"
+
+#include <algorithm>
 #include <vector>
 
 #include "gdi/blit.h"
 #include "gdi/colour.h"
-#include "gdi/dc_table.h"
 #include "gdi/rectangle_math.h"
 
-using namespace tavlon::win32;
+namespace tavlon::win32 {
 
 namespace {
 
-/// One axis of a stretch: where the destination lies and which source pixel each of its pixels shows.
+/// Source pixels [first, last] that one destination pixel shows; none when last is below first.
+struct Group {
+    int first = 0, last = -1;
+    bool Any() const { return first <= last; }
+};
+
+/// One axis of a stretch: both sides are walked from their starts in their own directions.
 struct Axis {
-    std::int64_t start, length;              ///< Destination, left to right.
-    std::int64_t sourceStart, sourceLength;  ///< Source, left to right.
-    bool mirrored;
+    std::int64_t start, length;
+    std::int64_t sourceStart, sourceLength;
+    int direction, sourceDirection;
 
-    std::int64_t SourceAt(std::int64_t position) const {
-        const std::int64_t offset = mirrored ? length - 1 - (position - start) : position - start;
-        return sourceStart + offset * sourceLength / length;
+    /// The left edge of the destination.
+    std::int64_t Low() const { return direction > 0 ? start : start - length + 1; }
+    std::int64_t SourceAt(std::int64_t step) const { return sourceStart + sourceDirection * step; }
+    std::int64_t StepAt(std::int64_t position) const { return (position - start) * direction; }
+
+    /// The last source step of those that come together at a step of the destination.
+    std::int64_t Last(std::int64_t step) const {
+        using Wide = __int128;
+        const Wide doubled = Wide{2} * length;
+        if (length >= sourceLength)
+            return std::int64_t(((Wide{2} * step + 1) * sourceLength + doubled - 1) / doubled) - 1;
+        if (length == 1) return sourceLength - 2;
+        return std::int64_t((Wide{2} * (step + 1) * sourceLength - length) / doubled);
+    }
+    std::int64_t First(std::int64_t step) const {
+        if (length >= sourceLength) return Last(step);
+        return step == 0 ? 0 : Last(step - 1) + 1;
     }
 };
 
-/// From a start and a signed length to a start and a positive one.
-void Straighten(std::int64_t& start, std::int64_t& length) {
-    if (length >= 0) return;
-    start += length + 1;
-    length = -length;
+Axis MakeAxis(Extent to, Extent from) {
+    return {to.start,
+            std::abs(std::int64_t{to.length}),
+            from.start,
+            std::abs(std::int64_t{from.length}),
+            to.length < 0 ? -1 : 1,
+            from.length < 0 ? -1 : 1};
 }
 
-Axis MakeAxis(int start, int length, int sourceStart, int sourceLength) {
-    Axis axis{start, length, sourceStart, sourceLength, (length < 0) != (sourceLength < 0)};
-    Straighten(axis.start, axis.length);
-    Straighten(axis.sourceStart, axis.sourceLength);
-    return axis;
-}
-
-/// Which pixel of the source is shown at each pixel of [first, last); -1 for one that the source lacks.
-std::vector<int> Lookup(const Axis& axis, int first, int last, int low, int high) {
-    std::vector<int> at;
-    at.reserve(static_cast<std::size_t>(last - first));
+/// What each destination pixel of [first, last) shows of a source that has pixels [0, size).
+std::vector<Group> Groups(const Axis& axis, int first, int last, int size, bool merge) {
+    std::vector<Group> groups;
     for (int i = first; i < last; ++i) {
-        const std::int64_t from = axis.SourceAt(i);
-        at.push_back(from >= low && from < high ? static_cast<int>(from) : -1);
+        const std::int64_t step = axis.StepAt(i);
+        const std::int64_t to = axis.SourceAt(axis.Last(step));
+        const std::int64_t from = merge ? axis.SourceAt(axis.First(step)) : to;
+        groups.push_back({static_cast<int>(std::clamp<std::int64_t>(std::min(from, to), 0, size)),
+                          static_cast<int>(std::clamp<std::int64_t>(std::max(from, to), -1, size - 1))});
     }
-    return at;
+    return groups;
 }
 
-struct Stretch {
-    Axis x, y;
-    RECT part;  ///< Destination pixels that can change, surface coordinates.
-    std::vector<int> columns, rows;
-};
-
-std::optional<Stretch> Plan(DeviceContext& dst, const Axis& x, const Axis& y, const DeviceContext& src) {
-    const RECT whole{Saturate(x.start), Saturate(y.start), Saturate(x.start + x.length), Saturate(y.start + y.length)};
-    Stretch plan{x, y, Intersection(whole, ClipBounds(dst)), {}, {}};
-    if (IsEmpty(plan.part)) return std::nullopt;
-    const RECT source = src.surface->Bounds();
-    plan.columns = Lookup(x, plan.part.left, plan.part.right, source.left, source.right);
-    plan.rows = Lookup(y, plan.part.top, plan.part.bottom, source.top, source.bottom);
-    return plan;
+/// The run of groups that show something; the source is one piece, so there is one run.
+std::pair<int, int> Known(const std::vector<Group>& groups) {
+    const auto first = std::find_if(groups.begin(), groups.end(), [](const Group& g) { return g.Any(); });
+    const auto last = std::find_if_not(first, groups.end(), [](const Group& g) { return g.Any(); });
+    return {static_cast<int>(first - groups.begin()), static_cast<int>(last - groups.begin())};
 }
 
-/// The pixels that the source has for the planned part; `has` is told for each row's columns.
-SurfaceRef Stretched(const Stretch& plan, Surface& source) {
-    SurfaceRef made = Surface::Create(plan.part.right - plan.part.left, plan.part.bottom - plan.part.top, source.BitsPerPixel());
-    if (!made) return nullptr;
-    for (int y = 0; y < made->Height(); ++y) {
-        const int from = plan.rows[static_cast<std::size_t>(y)];
-        if (from < 0) continue;
-        const std::uint32_t* in = source.Row32(from);
-        std::uint32_t* out = made->Row32(y);
-        for (int x = 0; x < made->Width(); ++x) {
-            const int column = plan.columns[static_cast<std::size_t>(x)];
-            out[x] = column < 0 ? 0 : in[column] & kWhitePixel;
-        }
-    }
-    return made;
-}
-
-/// The run of positions that the source has pixels for; the map is monotone, so there is one.
-std::pair<int, int> Known(const std::vector<int>& map) {
-    const auto has = [](int value) { return value >= 0; };
-    const auto first = std::find_if(map.begin(), map.end(), has);
-    const auto last = std::find_if_not(first, map.end(), has);
-    return {static_cast<int>(first - map.begin()), static_cast<int>(last - map.begin())};
+std::uint32_t Merged(Surface& source, const Group& column, const Group& row) {
+    std::uint32_t pixel = kWhitePixel;
+    for (int y = row.first; y <= row.last; ++y)
+        for (int x = column.first; x <= column.last; ++x) pixel &= source.Row32(y)[x];
+    return pixel;
 }
 
 }  // namespace
 
-BOOL StretchBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc, int cxSrc, int cySrc,
-                DWORD dwRop) {
+Stretched StretchPixels(Surface& source, Extent fromX, Extent fromY, Extent toX, Extent toY, const RECT& clip,
+                        bool merge) {
+    const Axis x = MakeAxis(toX, fromX), y = MakeAxis(toY, fromY);
+    const RECT whole{Saturate(x.Low()), Saturate(y.Low()), Saturate(x.Low() + x.length),
+                     Saturate(y.Low() + y.length)};
+    const RECT place = Intersection(whole, clip);
+    if (IsEmpty(place)) return {};
+    const auto columns = Groups(x, place.left, place.right, source.Width(), merge);
+    const auto rows = Groups(y, place.top, place.bottom, source.Height(), merge);
+    const auto [left, right] = Known(columns);
+    const auto [top, bottom] = Known(rows);
+    Stretched made{Surface::Create(place.right - place.left, place.bottom - place.top, source.BitsPerPixel()),
+                   place,
+                   {left, top, right, bottom}};
+    if (!made.pixels) return {};
+    for (int row = top; row < bottom; ++row)
+        for (int column = left; column < right; ++column)
+            made.pixels->Row32(row)[column] = Merged(source, columns[column], rows[row]);
+    return made;
+}
+
+}  // namespace tavlon::win32
+
+using namespace tavlon::win32;
+
+BOOL StretchBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc, int cxSrc,
+                int cySrc, DWORD dwRop) {
     if (!UsesSource(dwRop)) return PatBlt(hdcDst, x, y, cx, cy, dwRop);
     DeviceContext* dst = DcOf(hdcDst);
     DeviceContext* src = dst ? DcOf(hdcSrc) : nullptr;
@@ -102,14 +118,14 @@ BOOL StretchBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, 
         Transfer(*dst, FromSize(to.x, to.y, cx, cy), *src, from, dwRop);
         return TRUE;
     }
-    const auto plan = Plan(*dst, MakeAxis(to.x, cx, from.x, cxSrc), MakeAxis(to.y, cy, from.y, cySrc), *src);
-    if (!plan) return TRUE;
-    const auto [left, right] = Known(plan->columns);
-    const auto [top, bottom] = Known(plan->rows);
+    const int mode = dst->state.stretchMode;
+    const Stretched made =
+        StretchPixels(*src->surface, {from.x, cxSrc}, {from.y, cySrc}, {to.x, cx}, {to.y, cy},
+                      ClipBounds(*dst), mode == BLACKONWHITE || mode == HALFTONE);
+    if (!made.pixels) return TRUE;
     DeviceContext copy = *src;  // the stretched pixels, with the source's colours for a change of depth
-    copy.surface = Stretched(*plan, *src->surface);
-    if (!copy.surface) return FALSE;
-    copy.visible.Set({left, top, right, bottom});
-    Transfer(*dst, plan->part, copy, {0, 0}, dwRop);
+    copy.surface = made.pixels;
+    copy.visible.Set(made.known);
+    Transfer(*dst, made.place, copy, {0, 0}, dwRop);
     return TRUE;
 }

@@ -11,9 +11,11 @@ namespace tavlon::win32 {
 namespace {
 
 constexpr int kMaxSide = 32767;
+constexpr std::int64_t kMaxPixels = std::int64_t{1} << 27;  // half a gigabyte: no screen needs a larger one
 
 bool GoodSize(int width, int height) {
-    return width >= 1 && height >= 1 && width <= kMaxSide && height <= kMaxSide;
+    return width >= 1 && height >= 1 && width <= kMaxSide && height <= kMaxSide &&
+           std::int64_t{width} * height <= kMaxPixels;
 }
 
 }  // namespace

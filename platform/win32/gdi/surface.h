@@ -9,11 +9,12 @@
 
 namespace tavlon::win32 {
 
-/// A raster of 32-bit 0x00RRGGBB pixels or of single bits. Single bits are kept as 32-bit pixels as well, each
-/// 0 or 0x00ffffff, so that every drawing routine serves both. Rows run from the top.
+/// A raster of 32-bit 0x00RRGGBB pixels or of single bits. Single bits are kept as 32-bit pixels as well,
+/// each 0 or 0x00ffffff, so that every drawing routine serves both. Rows run from the top.
 class Surface {
 public:
-    /// Null when a side is below 1, above 32767, or memory is short. 32-bit pixels start black.
+    /// Null when a side is below 1, above 32767, it has more than 2^27 pixels, or memory is short. 32-bit
+    /// pixels start black.
     static std::shared_ptr<Surface> Create(int width, int height, int bitsPerPixel = 32);
     /// A 32-bit surface whose memory the caller sees: rows from the top or from the bottom, no padding.
     static std::shared_ptr<Surface> CreateSection(int width, int height, bool topDown);
@@ -24,7 +25,7 @@ public:
     int Width() const { return m_width; }
     int Height() const { return m_height; }
     int BitsPerPixel() const { return m_bitsPerPixel; }  ///< 32 or 1
-    int Stride() const { return m_stride; }              ///< Bytes from one row to the next; negative bottom-up.
+    int Stride() const { return m_stride; }  ///< Bytes from one row to the next; negative bottom-up.
     std::uint8_t* Row(int y) { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
     std::uint32_t* Row32(int y) { return reinterpret_cast<std::uint32_t*>(Row(y)); }
     pixman_image_t* Image() { return m_image; }

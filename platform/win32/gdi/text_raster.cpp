@@ -60,8 +60,9 @@ std::vector<unsigned char> BitsToCoverage(const std::vector<unsigned char>& rows
     coverage.reserve(static_cast<std::size_t>(box.width) * static_cast<unsigned>(box.height));
     for (int y = 0; y < box.height; ++y)
         for (int x = 0; x < box.width; ++x)
-            coverage.push_back(rows[static_cast<std::size_t>(y * pitch + x / 8)] & (0x80 >> (x % 8)) ? 255
-                                                                                                     : 0);
+            coverage.push_back(
+                rows[static_cast<std::size_t>(std::ptrdiff_t{y} * pitch + x / 8)] & (0x80 >> (x % 8)) ? 255
+                                                                                                      : 0);
     return coverage;
 }
 

@@ -14,8 +14,8 @@ namespace {
 using Wide = __int128;
 
 void AddDisc(RegionBuilder& builder, const RECT& bounds, POINT centre, int width) {
-    const RECT box = FromSize(Saturate(std::int64_t{centre.x} - width / 2), Saturate(std::int64_t{centre.y} - width / 2),
-                              width, width);
+    const RECT box = FromSize(Saturate(std::int64_t{centre.x} - width / 2),
+                              Saturate(std::int64_t{centre.y} - width / 2), width, width);
     ScanEllipse(bounds, box, builder.Sink());
 }
 
@@ -39,7 +39,9 @@ void AddBar(RegionBuilder& builder, const RECT& bounds, POINT a, POINT b, int wi
     const std::int64_t across = Share(width, dy, dx), down = Share(width, dx, dy);
     const bool falling = (b.x > a.x && b.y > a.y) || (b.x < a.x && b.y < a.y);
     const int sign = falling ? -1 : 1;
-    const auto moved = [](POINT p, std::int64_t x, std::int64_t y) { return POINT{Saturate(p.x + x), Saturate(p.y + y)}; };
+    const auto moved = [](POINT p, std::int64_t x, std::int64_t y) {
+        return POINT{Saturate(p.x + x), Saturate(p.y + y)};
+    };
     const auto far = [&](POINT p) { return moved(p, (across + 1) / 2, sign * ((down + 1) / 2)); };
     const auto near = [&](POINT p) { return moved(p, -(across / 2), -sign * (down / 2)); };
     const std::array corners = {far(a), far(b), near(b), near(a)};
@@ -51,7 +53,8 @@ void AddBar(RegionBuilder& builder, const RECT& bounds, POINT a, POINT b, int wi
 Region WideLine(const RECT& bounds, std::span<const POINT> points, bool closed, int width) {
     RegionBuilder builder;
     const std::size_t lines = points.size() - (closed ? 0 : 1);
-    for (std::size_t i = 0; i < lines; ++i) AddBar(builder, bounds, points[i], points[(i + 1) % points.size()], width);
+    for (std::size_t i = 0; i < lines; ++i)
+        AddBar(builder, bounds, points[i], points[(i + 1) % points.size()], width);
     for (const POINT& point : points) AddDisc(builder, bounds, point, width);
     return builder.Build();
 }

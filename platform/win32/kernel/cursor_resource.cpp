@@ -33,6 +33,7 @@ std::optional<CursorImage> DecodeCursor(Bytes bytes) {
     if (!mask) return std::nullopt;
     image.width = dib->width;
     image.height = dib->height;
+    image.monochrome = dib->bitCount == 1;
     image.colour = std::move(*colour);
     image.keep.assign(mask->begin(), mask->end());
     return image;

@@ -14,6 +14,7 @@ namespace tavlon::win32 {
 struct CursorImage {
     int hotX = 0, hotY = 0;
     int width = 0, height = 0;
+    bool monochrome = false;            ///< Black and white alone: its two masks say everything.
     std::vector<std::uint32_t> colour;  ///< 0x00RRGGBB
     std::vector<std::uint8_t> keep;     ///< 1 where the screen shows through, else 0.
 };

@@ -39,7 +39,9 @@ bool IsGlobal(const WindowClass& cls) { return (cls.style & CS_GLOBALCLASS) != 0
 /// The same name keeps its atom across registrations.
 ATOM AtomOf(const std::string& name) {
     static std::vector<std::string> names;
-    const auto same = [&name](const std::string& known) { return strcasecmp(known.c_str(), name.c_str()) == 0; };
+    const auto same = [&name](const std::string& known) {
+        return strcasecmp(known.c_str(), name.c_str()) == 0;
+    };
     auto found = std::find_if(names.begin(), names.end(), same);
     if (found == names.end()) {
         if (names.size() >= 0x3000) return 0;
@@ -145,10 +147,15 @@ ULONG_PTR GetClassLongPtrA(HWND hWnd, int nIndex) {
     const Window* window = WindowOf(hWnd);
     if (!window) return 0;
     switch (nIndex) {
-        case GCL_STYLE: return window->cls->style;
-        case GCLP_HCURSOR: return reinterpret_cast<ULONG_PTR>(window->cls->cursor);
-        case GCLP_HBRBACKGROUND: return reinterpret_cast<ULONG_PTR>(window->cls->background);
-        case GCLP_WNDPROC: return reinterpret_cast<ULONG_PTR>(window->cls->procedure);
-        default: return Refuse<ULONG_PTR>(ERROR_INVALID_INDEX);
+        case GCL_STYLE:
+            return window->cls->style;
+        case GCLP_HCURSOR:
+            return reinterpret_cast<ULONG_PTR>(window->cls->cursor);
+        case GCLP_HBRBACKGROUND:
+            return reinterpret_cast<ULONG_PTR>(window->cls->background);
+        case GCLP_WNDPROC:
+            return reinterpret_cast<ULONG_PTR>(window->cls->procedure);
+        default:
+            return Refuse<ULONG_PTR>(ERROR_INVALID_INDEX);
     }
 }

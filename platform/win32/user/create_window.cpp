@@ -130,7 +130,9 @@ void TellParent(HWND hWnd) {
 
 void ShowFirst(HWND hWnd, DWORD style) {
     if (!(style & WS_VISIBLE) || !WindowOf(hWnd)) return;
-    ShowWindow(hWnd, (style & WS_MAXIMIZE) ? SW_SHOWMAXIMIZED : (style & WS_MINIMIZE) ? SW_SHOWMINIMIZED : SW_SHOW);
+    ShowWindow(hWnd, (style & WS_MAXIMIZE)   ? SW_SHOWMAXIMIZED
+                     : (style & WS_MINIMIZE) ? SW_SHOWMINIMIZED
+                                             : SW_SHOW);
 }
 
 HWND Create(const ClassRef& cls, CREATESTRUCTA wanted) {
@@ -155,8 +157,8 @@ HWND Create(const ClassRef& cls, CREATESTRUCTA wanted) {
 
 }  // namespace
 
-HWND CreateWindowExA(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, int x, int y, int cx, int cy,
-                     HWND hParent, HMENU hMenu, HINSTANCE hInstance, LPVOID pParam) {
+HWND CreateWindowExA(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, int x, int y, int cx,
+                     int cy, HWND hParent, HMENU hMenu, HINSTANCE hInstance, LPVOID pParam) {
     const ClassRef cls = FindClass(pszClass, hInstance);
     if (!cls) return Refuse(ERROR_CLASS_DOES_NOT_EXIST);
     if (const DWORD error = ParentError(dwStyle, hParent)) return Refuse(error);

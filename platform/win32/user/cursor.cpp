@@ -68,7 +68,8 @@ std::uint32_t DisplayPixel(std::uint32_t colour, bool keep) {
 display::CursorImage DisplayImage(const Cursor& cursor) {
     if (cursor.stock != display::StockCursor::None) return {cursor.stock, 0, 0, 0, 0, {}};
     const CursorImage& picture = cursor.picture;
-    display::CursorImage image{display::StockCursor::None, picture.width, picture.height, picture.hotX, picture.hotY, {}};
+    display::CursorImage image{
+        display::StockCursor::None, picture.width, picture.height, picture.hotX, picture.hotY, {}};
     for (std::size_t i = 0; i < picture.colour.size(); ++i)
         image.pixels.push_back(DisplayPixel(picture.colour[i], picture.keep[i] != 0));
     return image;

@@ -158,14 +158,23 @@ LRESULT OnNcDoubleClick(HWND hWnd, WPARAM code, LPARAM lParam) {
 
 LRESULT OnSysCommand(HWND hWnd, WPARAM wParam) {
     switch (wParam & kCommandBits) {
-        case SC_CLOSE: SendMessageA(hWnd, WM_CLOSE, 0, 0); break;
-        case SC_MINIMIZE: ShowWindow(hWnd, SW_MINIMIZE); break;
-        case SC_MAXIMIZE: ShowWindow(hWnd, SW_SHOWMAXIMIZED); break;
-        case SC_RESTORE: ShowWindow(hWnd, SW_RESTORE); break;
+        case SC_CLOSE:
+            SendMessageA(hWnd, WM_CLOSE, 0, 0);
+            break;
+        case SC_MINIMIZE:
+            ShowWindow(hWnd, SW_MINIMIZE);
+            break;
+        case SC_MAXIMIZE:
+            ShowWindow(hWnd, SW_SHOWMAXIMIZED);
+            break;
+        case SC_RESTORE:
+            ShowWindow(hWnd, SW_RESTORE);
+            break;
         case SC_MOVE:
             if ((wParam & ~kCommandBits) == HTCAPTION) RunMoveLoop(hWnd);
             break;
-        default: break;
+        default:
+            break;
     }
     return 0;
 }
@@ -194,21 +203,31 @@ LRESULT OnShowWindow(Window& window, WPARAM show, LPARAM reason) {
 LRESULT OnTextMessage(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_SETTEXT) return StoreText(window, PointerIn<const char>(lParam));
     if (message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(window.text.size());
-    return CopyText(window.text, PointerIn<char>(lParam), static_cast<int>(std::min<WPARAM>(wParam, kMaxTitle + 1)));
+    return CopyText(window.text, PointerIn<char>(lParam),
+                    static_cast<int>(std::min<WPARAM>(wParam, kMaxTitle + 1)));
 }
 
 LRESULT OnFrameMessage(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND hWnd = window.self;
     switch (message) {
-        case WM_NCCREATE: return OnNcCreate(window, lParam);
-        case WM_NCCALCSIZE: return OnNcCalcSize(window, lParam);
-        case WM_NCHITTEST: return HitTestFrame(hWnd, PointIn(lParam));
-        case WM_NCPAINT: return PaintFrame(hWnd, reinterpret_cast<HRGN>(wParam)), 0;
-        case WM_NCACTIVATE: return OnNcActivate(window);
-        case WM_NCLBUTTONDOWN: return OnNcButtonDown(hWnd, wParam, lParam);
-        case WM_NCLBUTTONUP: return OnNcButtonUp(hWnd, wParam, lParam);
-        case WM_NCLBUTTONDBLCLK: return OnNcDoubleClick(hWnd, wParam, lParam);
-        default: return 0;
+        case WM_NCCREATE:
+            return OnNcCreate(window, lParam);
+        case WM_NCCALCSIZE:
+            return OnNcCalcSize(window, lParam);
+        case WM_NCHITTEST:
+            return HitTestFrame(hWnd, PointIn(lParam));
+        case WM_NCPAINT:
+            return PaintFrame(hWnd, reinterpret_cast<HRGN>(wParam)), 0;
+        case WM_NCACTIVATE:
+            return OnNcActivate(window);
+        case WM_NCLBUTTONDOWN:
+            return OnNcButtonDown(hWnd, wParam, lParam);
+        case WM_NCLBUTTONUP:
+            return OnNcButtonUp(hWnd, wParam, lParam);
+        case WM_NCLBUTTONDBLCLK:
+            return OnNcDoubleClick(hWnd, wParam, lParam);
+        default:
+            return 0;
     }
 }
 
@@ -217,25 +236,42 @@ LRESULT Default(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETTEXT:
         case WM_GETTEXT:
-        case WM_GETTEXTLENGTH: return OnTextMessage(window, message, wParam, lParam);
-        case WM_ERASEBKGND: return OnEraseBackground(hWnd, reinterpret_cast<HDC>(wParam));
-        case WM_PAINT: return OnPaint(hWnd);
-        case WM_CLOSE: return DestroyWindow(hWnd), 0;
-        case WM_WINDOWPOSCHANGING: return OnPosChanging(hWnd, lParam);
-        case WM_WINDOWPOSCHANGED: return OnPosChanged(hWnd, lParam);
-        case WM_ACTIVATE: return OnActivate(hWnd, wParam);
-        case WM_MOUSEACTIVATE: return OnMouseActivate(window, wParam, lParam);
-        case WM_SETCURSOR: return OnSetCursor(hWnd, wParam, lParam);
-        case WM_RBUTTONUP: return OnRightButtonUp(hWnd, lParam);
-        case WM_CONTEXTMENU: return OnContextMenu(window, wParam, lParam);
-        case WM_SYSCOMMAND: return OnSysCommand(hWnd, wParam);
-        case WM_SYSKEYDOWN: return OnSysKeyDown(hWnd, wParam);
-        case WM_CANCELMODE: return ReleaseCaptureOf(hWnd), 0;
-        case WM_SETREDRAW: return OnSetRedraw(window, wParam != 0);
-        case WM_SHOWWINDOW: return OnShowWindow(window, wParam, lParam);
+        case WM_GETTEXTLENGTH:
+            return OnTextMessage(window, message, wParam, lParam);
+        case WM_ERASEBKGND:
+            return OnEraseBackground(hWnd, reinterpret_cast<HDC>(wParam));
+        case WM_PAINT:
+            return OnPaint(hWnd);
+        case WM_CLOSE:
+            return DestroyWindow(hWnd), 0;
+        case WM_WINDOWPOSCHANGING:
+            return OnPosChanging(hWnd, lParam);
+        case WM_WINDOWPOSCHANGED:
+            return OnPosChanged(hWnd, lParam);
+        case WM_ACTIVATE:
+            return OnActivate(hWnd, wParam);
+        case WM_MOUSEACTIVATE:
+            return OnMouseActivate(window, wParam, lParam);
+        case WM_SETCURSOR:
+            return OnSetCursor(hWnd, wParam, lParam);
+        case WM_RBUTTONUP:
+            return OnRightButtonUp(hWnd, lParam);
+        case WM_CONTEXTMENU:
+            return OnContextMenu(window, wParam, lParam);
+        case WM_SYSCOMMAND:
+            return OnSysCommand(hWnd, wParam);
+        case WM_SYSKEYDOWN:
+            return OnSysKeyDown(hWnd, wParam);
+        case WM_CANCELMODE:
+            return ReleaseCaptureOf(hWnd), 0;
+        case WM_SETREDRAW:
+            return OnSetRedraw(window, wParam != 0);
+        case WM_SHOWWINDOW:
+            return OnShowWindow(window, wParam, lParam);
         case WM_MOUSEWHEEL:
             return window.parent ? SendMessageA(window.parent->self, message, wParam, lParam) : 0;
-        default: return OnFrameMessage(window, message, wParam, lParam);
+        default:
+            return OnFrameMessage(window, message, wParam, lParam);
     }
 }
 

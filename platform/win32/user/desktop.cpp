@@ -14,7 +14,8 @@ std::string Utf8Title(const Window& window) {
     const int length = static_cast<int>(window.text.size());
     const int count = MultiByteToWideChar(CP_ACP, 0, window.text.data(), length, wide.data(), length);
     std::string utf8(static_cast<std::size_t>(count) * 4 + 1, '\0');
-    const int bytes = WideCharToMultiByte(CP_UTF8, 0, wide.data(), count, utf8.data(), count * 4, nullptr, nullptr);
+    const int bytes =
+        WideCharToMultiByte(CP_UTF8, 0, wide.data(), count, utf8.data(), count * 4, nullptr, nullptr);
     utf8.resize(static_cast<std::size_t>(bytes));
     return utf8;
 }
@@ -34,8 +35,11 @@ bool ShouldShow(const Window& window) {
 
 display::WindowSpec SpecOf(const Window& window) {
     const Window* owner = window.owner ? WindowOf(window.owner) : nullptr;
-    return {DisplayRect(PresentedRect(window)), Utf8Title(window),  IsFramed(window),
-            window.Has(WS_THICKFRAME),          (window.exStyle & WS_EX_TOPMOST) != 0,
+    return {DisplayRect(PresentedRect(window)),
+            Utf8Title(window),
+            IsFramed(window),
+            window.Has(WS_THICKFRAME),
+            (window.exStyle & WS_EX_TOPMOST) != 0,
             owner ? owner->shown : 0};
 }
 
@@ -46,6 +50,7 @@ std::vector<display::Rect> RectsIn(Region area, const RECT& shown, const Window&
     std::vector<display::Rect> rects;
     int count = 0;
     const pixman_box32_t* boxes = area.Boxes(count);
+    rects.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         rects.push_back({boxes[i].x1, boxes[i].y1, boxes[i].x2 - boxes[i].x1, boxes[i].y2 - boxes[i].y1});
     return rects;

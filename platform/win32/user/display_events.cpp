@@ -23,8 +23,8 @@ void FollowDesktop(Window& window, POINT clientAt, POINT clientSize) {
     const POINT border = framed ? ClientInFrame(window) : POINT{0, 0};
     const int extraWidth = framed ? window.Width() - window.ClientWidth() : 0;
     const int extraHeight = framed ? window.Height() - window.ClientHeight() : 0;
-    SetWindowPos(window.self, nullptr, clientAt.x - border.x, clientAt.y - border.y, clientSize.x + extraWidth,
-                 clientSize.y + extraHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window.self, nullptr, clientAt.x - border.x, clientAt.y - border.y,
+                 clientSize.x + extraWidth, clientSize.y + extraHeight, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 RECT Presented(const Window& window) {
@@ -48,31 +48,60 @@ void TextTyped(const std::string& utf8) {
         PostMessageA(hFocus, WM_CHAR, static_cast<unsigned char>(c), 1);
 }
 
+/// The desktop may give its focus to a popup on its own accord; among ours the active window stays as it is.
+void FocusCame(Window& window) {
+    const bool popup = window.owner && !window.Has(WS_CAPTION);
+    if (!popup)
+        ForegroundGained(window.self);
+    else if (!GetForegroundWindow())
+        ForegroundGained(window.owner);
+}
+
 void HandleWindowEvent(const display::Event& event) {
     Window* window = WindowShownAs(event.window);
     if (!window) return;
     switch (event.kind) {
-        case display::EventKind::Moved: return Moved(*window, event);
-        case display::EventKind::Resized: return Resized(*window, event);
-        case display::EventKind::CloseRequest: PostMessageA(window->self, WM_SYSCOMMAND, SC_CLOSE, 0); return;
-        case display::EventKind::Exposed: window->damage.Set(LocalRect(window->Width(), window->Height())); return;
-        case display::EventKind::FocusGained: ForegroundGained(window->self); return;
-        default: return;
+        case display::EventKind::Moved:
+            return Moved(*window, event);
+        case display::EventKind::Resized:
+            return Resized(*window, event);
+        case display::EventKind::CloseRequest:
+            PostMessageA(window->self, WM_SYSCOMMAND, SC_CLOSE, 0);
+            return;
+        case display::EventKind::Exposed:
+            window->damage.Set(LocalRect(window->Width(), window->Height()));
+            return;
+        case display::EventKind::FocusGained:
+            FocusCame(*window);
+            return;
+        default:
+            return;
     }
 }
 
 void Handle(const display::Event& event) {
     switch (event.kind) {
-        case display::EventKind::PointerMove: PointerSeenAt({event.x, event.y}); return;
-        case display::EventKind::PointerLeave: PointerLeftAll(); return;
+        case display::EventKind::PointerMove:
+            PointerSeenAt({event.x, event.y});
+            return;
+        case display::EventKind::PointerLeave:
+            PointerLeftAll();
+            return;
         case display::EventKind::Button:
             PointerSeenAt({event.x, event.y});
             ButtonSeen(event.code, event.down);
             return;
-        case display::EventKind::Wheel: WheelSeen(event.code); return;
-        case display::EventKind::Key: KeySeen(event.code, event.down); return;
-        case display::EventKind::Text: TextTyped(event.text); return;
-        default: HandleWindowEvent(event);
+        case display::EventKind::Wheel:
+            WheelSeen(event.code);
+            return;
+        case display::EventKind::Key:
+            KeySeen(event.code, event.down);
+            return;
+        case display::EventKind::Text:
+            TextTyped(event.text);
+            return;
+        default:
+            HandleWindowEvent(event);
     }
 }
 
@@ -91,7 +120,7 @@ bool PumpDisplay() {
             Handle(event);
     }
     // Between two windows of ours the focus is lost and gained again at once: the gain decides.
-    if (lost) ForegroundLost();
+    if (lost && !TheDisplay().HasFocus()) ForegroundLost();
     return any;
 }
 

@@ -49,7 +49,9 @@ void CutChildren(const Window& window, Region& region) {
 int ClampCoordinate(long long value) { return static_cast<int>(std::clamp<long long>(value, -32768, 32767)); }
 int ClampSize(long long value) { return static_cast<int>(std::clamp<long long>(value, 0, 32767)); }
 
-RECT ClampedRect(const RECT& rect) { return {Near(rect.left), Near(rect.top), Near(rect.right), Near(rect.bottom)}; }
+RECT ClampedRect(const RECT& rect) {
+    return {Near(rect.left), Near(rect.top), Near(rect.right), Near(rect.bottom)};
+}
 
 RECT MovedRect(const RECT& rect, int dx, int dy) {
     return {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};

@@ -26,8 +26,8 @@ public:
     std::uint32_t At(int x, int y) const {
         const COLORREF clr = GetPixel(m_hdc, x, y);
         if (clr == CLR_INVALID) return 0;
-        return static_cast<std::uint32_t>(GetRValue(clr)) << 16 | static_cast<std::uint32_t>(GetGValue(clr)) << 8 |
-               GetBValue(clr);
+        return static_cast<std::uint32_t>(GetRValue(clr)) << 16 |
+               static_cast<std::uint32_t>(GetGValue(clr)) << 8 | GetBValue(clr);
     }
 
 private:
@@ -63,7 +63,7 @@ bool ReadColoured(const ICONINFO& info, CursorImage& picture) {
 bool ReadMonochrome(const ICONINFO& info, CursorImage& picture) {
     const BitmapReader mask(info.hbmMask);
     if (!mask.Valid() || mask.Height() % 2) return BadReader();
-    picture.width = mask.Width(), picture.height = mask.Height() / 2;
+    picture.width = mask.Width(), picture.height = mask.Height() / 2, picture.monochrome = true;
     ForEachPixel(picture.width, picture.height, [&](int x, int y) {
         picture.colour.push_back(mask.At(x, y + picture.height));
         picture.keep.push_back(mask.At(x, y) != 0);
@@ -75,17 +75,26 @@ constexpr int kMaxSide = 256;
 
 bool SaneSize(HBITMAP hBitmap) {
     BITMAP bitmap{};
-    return GetObjectA(hBitmap, sizeof bitmap, &bitmap) && bitmap.bmWidth <= kMaxSide && bitmap.bmHeight <= 2 * kMaxSide;
+    return GetObjectA(hBitmap, sizeof bitmap, &bitmap) && bitmap.bmWidth <= kMaxSide &&
+           bitmap.bmHeight <= 2 * kMaxSide;
 }
 
+/// One bit a pixel, rows of whole words: the mask, and under it the picture when that has no colours.
 HBITMAP MakeMask(const CursorImage& picture) {
     const int stride = (picture.width + 15) / 16 * 2;
-    std::vector<BYTE> bits(static_cast<std::size_t>(stride) * picture.height);
-    ForEachPixel(picture.width, picture.height, [&](int x, int y) {
-        if (picture.keep[static_cast<std::size_t>(y) * picture.width + x])
+    const int height = picture.monochrome ? 2 * picture.height : picture.height;
+    std::vector<BYTE> bits(static_cast<std::size_t>(stride) * height);
+    ForEachPixel(picture.width, height, [&](int x, int y) {
+        const std::size_t at = static_cast<std::size_t>(y % picture.height) * picture.width + x;
+        if (y < picture.height ? picture.keep[at] != 0 : picture.colour[at] != 0)
             bits[static_cast<std::size_t>(y) * stride + x / 8] |= static_cast<BYTE>(0x80 >> (x % 8));
     });
-    return CreateBitmap(picture.width, picture.height, 1, 1, bits.data());
+    return CreateBitmap(picture.width, height, 1, 1, bits.data());
+}
+
+HBITMAP MakeColours(const CursorImage& picture) {
+    if (picture.monochrome) return nullptr;
+    return CreateBitmap(picture.width, picture.height, 1, 32, picture.colour.data());
 }
 
 }  // namespace
@@ -105,7 +114,8 @@ HICON CreateIconIndirect(const ICONINFO* pInfo) {
         pInfo->hbmColor ? ReadColoured(*pInfo, cursor.picture) : ReadMonochrome(*pInfo, cursor.picture);
     if (!read) return nullptr;
     cursor.picture.hotX = cursor.icon ? cursor.picture.width / 2 : static_cast<int>(pInfo->xHotspot & 0xffff);
-    cursor.picture.hotY = cursor.icon ? cursor.picture.height / 2 : static_cast<int>(pInfo->yHotspot & 0xffff);
+    cursor.picture.hotY =
+        cursor.icon ? cursor.picture.height / 2 : static_cast<int>(pInfo->yHotspot & 0xffff);
     return KeepCursor(std::move(cursor));
 }
 
@@ -116,7 +126,7 @@ BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo) {
         return FALSE;
     }
     const CursorImage& picture = cursor->picture;
-    *pInfo = {cursor->icon, static_cast<DWORD>(picture.hotX), static_cast<DWORD>(picture.hotY), MakeMask(picture),
-              CreateBitmap(picture.width, picture.height, 1, 32, picture.colour.data())};
-    return pInfo->hbmMask && pInfo->hbmColor;
+    *pInfo = {cursor->icon, static_cast<DWORD>(picture.hotX), static_cast<DWORD>(picture.hotY),
+              MakeMask(picture), MakeColours(picture)};
+    return pInfo->hbmMask && (picture.monochrome || pInfo->hbmColor);
 }

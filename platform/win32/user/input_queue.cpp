@@ -66,7 +66,8 @@ bool MakeNext(UINT first, UINT last) {
 
 void QueueInput(const InputEvent& event) {
     auto& waiting = Waiting();
-    const bool merges = event.kind == InputKind::Move && !waiting.empty() && waiting.back().kind == InputKind::Move;
+    const bool merges =
+        event.kind == InputKind::Move && !waiting.empty() && waiting.back().kind == InputKind::Move;
     if (merges)
         waiting.back() = event;
     else if (waiting.size() < kMaxInput)

@@ -10,8 +10,8 @@ enum class InputKind { Move, Button, Wheel, Key };
 /// One piece of input, not yet meant for any window.
 struct InputEvent {
     InputKind kind = InputKind::Move;
-    POINT pt{};        ///< Pointer position, on the screen.
-    int code = 0;      ///< Button 0 left, 1 right, 2 middle; wheel delta; virtual-key code.
+    POINT pt{};    ///< Pointer position, on the screen.
+    int code = 0;  ///< Button 0 left, 1 right, 2 middle; wheel delta; virtual-key code.
     bool down = false;
     BYTE scan = 0;
     DWORD time = 0;

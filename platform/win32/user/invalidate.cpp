@@ -58,6 +58,13 @@ HRGN FrameRegion(const Window& window) {
     return hRgn;
 }
 
+/// A parent that is still to be painted would draw over what is drawn now.
+bool ParentPaintsFirst(const Window& window) {
+    for (const Window* parent = window.parent; parent; parent = parent->parent)
+        if (!parent->Has(WS_CLIPCHILDREN) && !parent->update.Empty()) return true;
+    return false;
+}
+
 Window* FindToPaint(Window& window) {
     if (!window.Has(WS_VISIBLE)) return nullptr;
     if (NeedsPaint(window)) return &window;
@@ -69,7 +76,8 @@ Window* FindToPaint(Window& window) {
 /// The caller's rectangle or region, relative to the frame; null for both means the whole client area.
 Region Requested(const Window& window, const RECT* rect, HRGN hRgn, bool withFrame) {
     pixman_region32_t* raw = hRgn ? RegionOf(hRgn) : nullptr;
-    if (!raw && !rect) return withFrame ? Region(LocalRect(window.Width(), window.Height())) : ClientArea(window);
+    if (!raw && !rect)
+        return withFrame ? Region(LocalRect(window.Width(), window.Height())) : ClientArea(window);
     Region area = raw ? Region(*raw) : Region(ClampedRect(*rect));
     const POINT at = ClientInFrame(window);
     area.Translate(at.x, at.y);
@@ -139,8 +147,10 @@ void PaintFrameIfDue(HWND hWnd) {
 }
 
 void EraseNow(HWND hWnd) {
-    PaintFrameIfDue(hWnd);
     Window* window = WindowOf(hWnd);
+    if (!window || ParentPaintsFirst(*window)) return;
+    PaintFrameIfDue(hWnd);
+    window = WindowOf(hWnd);
     if (!window || !window->needsErase || window->update.Empty()) return;
     window->needsErase = false;
     Region clip = window->update;

@@ -5,8 +5,8 @@
 
 namespace tavlon::win32 {
 
-/// Adds the part of `area` (relative to the frame) that can be seen. RDW_ERASE, RDW_FRAME, RDW_ALLCHILDREN and
-/// RDW_NOCHILDREN mean what they mean to RedrawWindow.
+/// Adds the part of `area` (relative to the frame) that can be seen. RDW_ERASE, RDW_FRAME, RDW_ALLCHILDREN
+/// and RDW_NOCHILDREN mean what they mean to RedrawWindow.
 void InvalidateArea(Window& window, const Region& area, UINT flags);
 void ValidateArea(Window& window, const Region& area, UINT flags);
 /// Sends WM_NCPAINT and WM_ERASEBKGND where they are due; the update region stays.

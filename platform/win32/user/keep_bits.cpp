@@ -119,8 +119,8 @@ void TouchOldAndNew(const Window& window, const KeptBits& before) {
 
 KeptBits RememberBits(Window& window) {
     CollectDamage();
-    return {VisibleFrame(window), window.update, FrameOnSurface(window), ClientInFrame(window), window.frame,
-            window.client};
+    return {VisibleFrame(window),  window.update, FrameOnSurface(window),
+            ClientInFrame(window), window.frame,  window.client};
 }
 
 void MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {

@@ -56,7 +56,8 @@ int DigitOf(int key, bool shift) {
 int CharacterOf(int key) {
     const bool shift = IsKeyDown(VK_SHIFT);
     if (key >= 'A' && key <= 'Z') return LetterOf(key, shift);
-    if (key == VK_RETURN || key == VK_ESCAPE || key == VK_BACK || key == VK_TAB || key == VK_SPACE) return key;
+    if (key == VK_RETURN || key == VK_ESCAPE || key == VK_BACK || key == VK_TAB || key == VK_SPACE)
+        return key;
     if (IsKeyDown(VK_CONTROL)) return -1;
     if (key >= '0' && key <= '9') return DigitOf(key, shift);
     if (key >= 0x60 && key <= 0x69) return '0' + key - 0x60;  // the number block

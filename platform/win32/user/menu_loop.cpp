@@ -34,17 +34,27 @@ void HandleMouse(MenuTracker& tracker, const MSG& msg) {
 
 void HandleKeyDown(MenuTracker& tracker, const MSG& msg) {
     switch (msg.wParam) {
-        case VK_UP: return tracker.Step(-1);
-        case VK_DOWN: return tracker.Step(1);
-        case VK_HOME: return tracker.SelectEnd(false);
-        case VK_END: return tracker.SelectEnd(true);
-        case VK_RIGHT: return tracker.EnterSubmenu();
-        case VK_LEFT: return tracker.LeaveSubmenu();
-        case VK_RETURN: return tracker.Execute();
-        case VK_ESCAPE: return tracker.CloseLast();
+        case VK_UP:
+            return tracker.Step(-1);
+        case VK_DOWN:
+            return tracker.Step(1);
+        case VK_HOME:
+            return tracker.SelectEnd(false);
+        case VK_END:
+            return tracker.SelectEnd(true);
+        case VK_RIGHT:
+            return tracker.EnterSubmenu();
+        case VK_LEFT:
+            return tracker.LeaveSubmenu();
+        case VK_RETURN:
+            return tracker.Execute();
+        case VK_ESCAPE:
+            return tracker.CloseLast();
         case VK_MENU:
-        case VK_F10: return tracker.Cancel();
-        default: TranslateMessage(&msg);
+        case VK_F10:
+            return tracker.Cancel();
+        default:
+            TranslateMessage(&msg);
     }
 }
 

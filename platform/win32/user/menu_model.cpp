@@ -46,9 +46,8 @@ FoundItem FindByCommand(HMENU hMenu, UINT id, int depth) {
 HMENU BuildMenu(const std::vector<MenuTemplateItem>& items, bool popup) {
     const HMENU hMenu = popup ? CreatePopupMenu() : CreateMenu();
     for (const MenuTemplateItem& item : items) {
-        const UINT_PTR id = (item.flags & MF_POPUP)
-                                ? reinterpret_cast<UINT_PTR>(BuildMenu(item.children, true))
-                                : item.id;
+        const UINT_PTR id =
+            (item.flags & MF_POPUP) ? reinterpret_cast<UINT_PTR>(BuildMenu(item.children, true)) : item.id;
         AppendMenuA(hMenu, item.flags, id, item.text.c_str());
     }
     return hMenu;
@@ -144,7 +143,8 @@ int GetMenuStringA(HMENU hMenu, UINT nId, LPSTR pszText, int cchText, UINT nFlag
     if (pszText && cchText > 0) *pszText = 0;
     const FoundItem item = FindMenuItem(hMenu, nId, nFlags);
     if (!item) return 0;
-    return pszText && cchText > 0 ? CopyText(item->text, pszText, cchText) : static_cast<int>(item->text.size());
+    return pszText && cchText > 0 ? CopyText(item->text, pszText, cchText)
+                                  : static_cast<int>(item->text.size());
 }
 
 DWORD CheckMenuItem(HMENU hMenu, UINT nId, UINT nCheck) {
@@ -152,7 +152,8 @@ DWORD CheckMenuItem(HMENU hMenu, UINT nId, UINT nCheck) {
 }
 
 BOOL EnableMenuItem(HMENU hMenu, UINT nId, UINT nEnable) {
-    return static_cast<BOOL>(ChangeState(FindMenuItem(hMenu, nId, nEnable), MF_GRAYED | MF_DISABLED, nEnable));
+    return static_cast<BOOL>(
+        ChangeState(FindMenuItem(hMenu, nId, nEnable), MF_GRAYED | MF_DISABLED, nEnable));
 }
 
 BOOL CheckMenuRadioItem(HMENU hMenu, UINT nFirst, UINT nLast, UINT nCheck, UINT nFlags) {

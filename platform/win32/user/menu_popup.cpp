@@ -102,9 +102,10 @@ ClassRef MakeMenuClass() {
 MenuPopup MenuPopup::Open(HMENU hMenu, POINT at, int beside, HWND hOwner) {
     MenuPopup popup{hMenu, nullptr, LayoutMenu(*MenuOf(hMenu)), -1};
     const SIZE size = popup.layout.size;
-    at = OnScreen({std::clamp<LONG>(at.x, -32768, 32767), std::clamp<LONG>(at.y, -32768, 32767)}, size, beside);
-    popup.window = CreateWindowExA(WS_EX_TOPMOST, kClassName, "", WS_POPUP, at.x, at.y, size.cx, size.cy, hOwner,
-                                   nullptr, nullptr, nullptr);
+    at = OnScreen({std::clamp<LONG>(at.x, -32768, 32767), std::clamp<LONG>(at.y, -32768, 32767)}, size,
+                  beside);
+    popup.window = CreateWindowExA(WS_EX_TOPMOST, kClassName, "", WS_POPUP, at.x, at.y, size.cx, size.cy,
+                                   hOwner, nullptr, nullptr, nullptr);
     return popup;
 }
 

@@ -67,7 +67,8 @@ bool MenuTracker::OpenLevel(HMENU hMenu, POINT at, int beside, int position) {
     MenuPopup popup = MenuPopup::Open(hMenu, at, beside, m_owner);
     if (!popup.window) return false;
     m_levels.push_back(popup);
-    SetWindowPos(popup.window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    SetWindowPos(popup.window, HWND_TOPMOST, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     return true;
 }
 
@@ -136,7 +137,8 @@ void MenuTracker::Step(int direction) {
     if (row < 0 && direction < 0) row = 0;
     for (int tried = 0; tried < count; ++tried) {
         row = (row + direction + count) % count;
-        if (!menu->items[static_cast<std::size_t>(row)].IsSeparator()) return SelectRow(m_levels.size() - 1, row);
+        if (!menu->items[static_cast<std::size_t>(row)].IsSeparator())
+            return SelectRow(m_levels.size() - 1, row);
     }
 }
 

@@ -39,7 +39,8 @@ struct Filter {
 
 bool TakePosted(MSG& msg, const Filter& filter, bool remove) {
     auto& posted = TheQueue().posted;
-    const auto found = std::find_if(posted.begin(), posted.end(), [&](const MSG& m) { return filter.Takes(m); });
+    const auto found =
+        std::find_if(posted.begin(), posted.end(), [&](const MSG& m) { return filter.Takes(m); });
     if (found == posted.end()) return false;
     msg = *found;
     if (remove) posted.erase(found);
@@ -66,7 +67,8 @@ bool TakePaint(MSG& msg, const Filter& filter, bool remove) {
 bool Take(MSG& msg, const Filter& filter, bool remove) {
     PumpDisplay();
     return TakePosted(msg, filter, remove) || TakeQuit(msg, remove) ||
-           TakeInput(msg, filter.window, filter.first, filter.last, remove) || TakePaint(msg, filter, remove) ||
+           TakeInput(msg, filter.window, filter.first, filter.last, remove) ||
+           TakePaint(msg, filter, remove) ||
            TakeDueTimer(msg, filter.window, filter.first, filter.last, remove);
 }
 

@@ -90,25 +90,36 @@ bool ActivateForPress(const Hit& hit, UINT message) {
 
 void AskCursor(const Hit& hit, UINT message) {
     if (IsWindow(hit.window))
-        SendMessageA(hit.window, WM_SETCURSOR, reinterpret_cast<WPARAM>(hit.window), MAKELPARAM(hit.code, message));
+        SendMessageA(hit.window, WM_SETCURSOR, reinterpret_cast<WPARAM>(hit.window),
+                     MAKELPARAM(hit.code, message));
 }
 
 MSG MessageFor(const InputEvent& event, const Hit& hit, UINT message) {
     if (hit.code != HTCLIENT)
-        return {hit.window, message + kNonClientOffset, static_cast<WPARAM>(hit.code),
-                MAKELPARAM(event.pt.x, event.pt.y), event.time, event.pt};
+        return {hit.window,
+                message + kNonClientOffset,
+                static_cast<WPARAM>(hit.code),
+                MAKELPARAM(event.pt.x, event.pt.y),
+                event.time,
+                event.pt};
     POINT at = event.pt;
     ScreenToClient(hit.window, &at);
     return {hit.window, message, MouseKeyState(), MAKELPARAM(at.x, at.y), event.time, event.pt};
 }
 
+/// The wheel turns what the pointer is over, the focus only when it is over nothing of ours.
 bool MakeWheelMessage(const InputEvent& event, MSG& msg) {
     const Hit hit = TargetOf(event.pt);
     if (!GetCapture()) AskCursor(hit, WM_MOUSEWHEEL);
-    const HWND hTarget = GetFocus() ? GetFocus() : GetActiveWindow();
+    if (hit.code == HTERROR) return false;
+    const HWND hTarget = hit.window ? hit.window : GetFocus();
     if (!IsWindow(hTarget)) return false;
-    msg = {hTarget, WM_MOUSEWHEEL, MAKEWPARAM(MouseKeyState(), event.code), MAKELPARAM(event.pt.x, event.pt.y),
-           event.time, event.pt};
+    msg = {hTarget,
+           WM_MOUSEWHEEL,
+           MAKEWPARAM(MouseKeyState(), event.code),
+           MAKELPARAM(event.pt.x, event.pt.y),
+           event.time,
+           event.pt};
     return true;
 }
 

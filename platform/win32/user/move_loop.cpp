@@ -49,7 +49,9 @@ void Cancel(Drag& drag) {
 
 void HandleOne(Drag& drag, const MSG& msg) {
     switch (msg.message) {
-        case WM_MOUSEMOVE: DragTo(drag, msg.pt); return;
+        case WM_MOUSEMOVE:
+            DragTo(drag, msg.pt);
+            return;
         case WM_LBUTTONUP:
             DragTo(drag, msg.pt);
             drag.going = false;
@@ -76,7 +78,8 @@ bool NextMessage(MSG& msg) {
 
 void Run(Drag& drag) {
     MSG msg;
-    while (drag.going && IsWindow(drag.window) && GetCapture() == drag.window && NextMessage(msg)) HandleOne(drag, msg);
+    while (drag.going && IsWindow(drag.window) && GetCapture() == drag.window && NextMessage(msg))
+        HandleOne(drag, msg);
 }
 
 }  // namespace

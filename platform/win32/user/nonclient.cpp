@@ -23,7 +23,8 @@ bool Inside(const RECT& rect, POINT pt) {
 }
 
 int EdgeCode(const RECT& frame, POINT pt, int border) {
-    constexpr int kCodes[3][3] = {{HTTOPLEFT, HTTOP, HTTOPRIGHT}, {HTLEFT, HTBORDER, HTRIGHT}, {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
+    constexpr int kCodes[3][3] = {
+        {HTTOPLEFT, HTTOP, HTTOPRIGHT}, {HTLEFT, HTBORDER, HTRIGHT}, {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
     const auto band = [border](LONG at, LONG low, LONG high, bool wide) {
         const int reach = wide ? kCornerReach : border;
         return at < low + reach ? 0 : at >= high - reach ? 2 : 1;
@@ -105,7 +106,8 @@ void ClipToFrame(HDC hdc, const Window& window, HRGN hClip) {
         DeleteObject(hLocal);
     }
     const POINT client = ClientInFrame(window);
-    ExcludeClipRect(hdc, client.x, client.y, client.x + window.ClientWidth(), client.y + window.ClientHeight());
+    ExcludeClipRect(hdc, client.x, client.y, client.x + window.ClientWidth(),
+                    client.y + window.ClientHeight());
 }
 
 }  // namespace
@@ -139,7 +141,8 @@ LRESULT HitTestFrame(HWND hWnd, POINT pt) {
 
 void PaintFrame(HWND hWnd, HRGN hClip) {
     const Window* window = WindowOf(hWnd);
-    if (!window || (window->ClientWidth() == window->Width() && window->ClientHeight() == window->Height())) return;
+    if (!window || (window->ClientWidth() == window->Width() && window->ClientHeight() == window->Height()))
+        return;
     const HDC hdc = GetWindowDC(hWnd);
     ClipToFrame(hdc, *window, hClip);
     FrameRings(hdc, *window);
@@ -161,4 +164,6 @@ BOOL AdjustWindowRectEx(LPRECT pRect, DWORD dwStyle, BOOL bMenu, DWORD dwExStyle
     return TRUE;
 }
 
-BOOL AdjustWindowRect(LPRECT pRect, DWORD dwStyle, BOOL bMenu) { return AdjustWindowRectEx(pRect, dwStyle, bMenu, 0); }
+BOOL AdjustWindowRect(LPRECT pRect, DWORD dwStyle, BOOL bMenu) {
+    return AdjustWindowRectEx(pRect, dwStyle, bMenu, 0);
+}

@@ -47,7 +47,9 @@ void Compose(Surface& screen, Region area) {
         CopyWindow(*window, area, screen);
         area.Subtract(Region(window->frame));
     }
-    ForEachRow(area, [&](int x1, int x2, int y) { std::fill(screen.Row32(y) + x1, screen.Row32(y) + x2, kDesktopColour); });
+    ForEachRow(area, [&](int x1, int x2, int y) {
+        std::fill(screen.Row32(y) + x1, screen.Row32(y) + x2, kDesktopColour);
+    });
 }
 
 }  // namespace

@@ -36,7 +36,8 @@ void QueueKey(int key, bool down, BYTE scan) {
 /// Absolute positions run over the screen in 65536 steps.
 POINT MoveTarget(const MOUSEINPUT& mouse) {
     if (!(mouse.dwFlags & MOUSEEVENTF_ABSOLUTE))
-        return OnScreen(static_cast<long long>(g_pointer.x) + mouse.dx, static_cast<long long>(g_pointer.y) + mouse.dy);
+        return OnScreen(static_cast<long long>(g_pointer.x) + mouse.dx,
+                        static_cast<long long>(g_pointer.y) + mouse.dy);
     const RECT screen = ScreenRect();
     return OnScreen(static_cast<long long>(mouse.dx) * screen.right / 65536,
                     static_cast<long long>(mouse.dy) * screen.bottom / 65536);
@@ -49,14 +50,15 @@ void InjectMouse(const MOUSEINPUT& mouse) {
         bool down;
     };
     constexpr Action kActions[] = {
-        {MOUSEEVENTF_LEFTDOWN, 0, true},   {MOUSEEVENTF_LEFTUP, 0, false},   {MOUSEEVENTF_RIGHTDOWN, 1, true},
-        {MOUSEEVENTF_RIGHTUP, 1, false},   {MOUSEEVENTF_MIDDLEDOWN, 2, true}, {MOUSEEVENTF_MIDDLEUP, 2, false},
+        {MOUSEEVENTF_LEFTDOWN, 0, true}, {MOUSEEVENTF_LEFTUP, 0, false},    {MOUSEEVENTF_RIGHTDOWN, 1, true},
+        {MOUSEEVENTF_RIGHTUP, 1, false}, {MOUSEEVENTF_MIDDLEDOWN, 2, true}, {MOUSEEVENTF_MIDDLEUP, 2, false},
     };
     if (mouse.dwFlags & MOUSEEVENTF_MOVE) MovePointerTo(MoveTarget(mouse));
     for (const Action& action : kActions)
         if (mouse.dwFlags & action.flag) QueueButton(action.button, action.down);
     if (mouse.dwFlags & MOUSEEVENTF_WHEEL)
-        QueueInput({InputKind::Wheel, g_pointer, static_cast<SHORT>(mouse.mouseData), false, 0, GetTickCount()});
+        QueueInput(
+            {InputKind::Wheel, g_pointer, static_cast<SHORT>(mouse.mouseData), false, 0, GetTickCount()});
 }
 
 void InjectKey(const KEYBDINPUT& key) {

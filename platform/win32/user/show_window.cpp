@@ -30,8 +30,8 @@ void ChangeVisibility(HWND hWnd, bool show, UINT extraFlags) {
     Window* window = WindowOf(hWnd);
     if (!window) return;
     if (ParentVisible(*window))
-        ChangePosition({hWnd, HWND_TOP, 0, 0, 0, 0,
-                        kInPlace | extraFlags | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW)});
+        ChangePosition(
+            {hWnd, HWND_TOP, 0, 0, 0, 0, kInPlace | extraFlags | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW)});
     else
         window->style = show ? window->style | WS_VISIBLE : window->style & ~WS_VISIBLE;
 }
@@ -112,7 +112,9 @@ BOOL ShowWindow(HWND hWnd, int nShow) {
             else if (!wasVisible)
                 Show(hWnd, nShow != SW_SHOWNOACTIVATE);
             break;
-        case SW_SHOWNA: Show(hWnd, false); break;
+        case SW_SHOWNA:
+            Show(hWnd, false);
+            break;
         default:
             if (!wasVisible) Show(hWnd, true);
     }

@@ -8,7 +8,9 @@ constexpr int kSide = 32;
 
 /// A picture that is all screen, to be drawn on.
 CursorImage Blank(int hotX, int hotY) {
-    CursorImage picture{hotX, hotY, kSide, kSide, {}, {}};
+    CursorImage picture;
+    picture.hotX = hotX, picture.hotY = hotY;
+    picture.width = picture.height = kSide;
     picture.colour.assign(kSide * kSide, 0);
     picture.keep.assign(kSide * kSide, 1);
     return picture;
@@ -45,10 +47,14 @@ CursorImage DrawLines(bool horizontal, bool vertical, int reach) {
 
 CursorImage DrawSystemCursor(display::StockCursor stock) {
     switch (stock) {
-        case display::StockCursor::IBeam: return DrawLines(false, true, 8);
-        case display::StockCursor::Cross: return DrawLines(true, true, 12);
-        case display::StockCursor::SizeAll: return DrawLines(true, true, 10);
-        default: return DrawArrow();
+        case display::StockCursor::IBeam:
+            return DrawLines(false, true, 8);
+        case display::StockCursor::Cross:
+            return DrawLines(true, true, 12);
+        case display::StockCursor::SizeAll:
+            return DrawLines(true, true, 10);
+        default:
+            return DrawArrow();
     }
 }
 

@@ -21,11 +21,41 @@ struct Metric {
 };
 
 constexpr Metric kMetrics[] = {
-    {2, 17},  {3, 17},  {SM_CYCAPTION, 19}, {SM_CXBORDER, 1}, {SM_CYBORDER, 1}, {7, 3},   {8, 3},
-    {9, 17}, {10, 17}, {11, 32}, {12, 32}, {SM_CXCURSOR, 32},  {SM_CYCURSOR, 32}, {15, 19},        {19, 1}, {20, 17}, {21, 17}, {28, 116},
-    {29, 27}, {30, 18}, {31, 18},           {SM_CXFRAME, 4},   {SM_CYFRAME, 4}, {34, 116}, {35, 27},
-    {SM_CXDOUBLECLK, 4}, {SM_CYDOUBLECLK, 4}, {43, 3},         {45, 2},         {46, 2},  {SM_CXDRAG, 4},
-    {SM_CYDRAG, 4}, {75, 1}, {80, 1}, {81, 1},
+    {2, 17},
+    {3, 17},
+    {SM_CYCAPTION, 19},
+    {SM_CXBORDER, 1},
+    {SM_CYBORDER, 1},
+    {7, 3},
+    {8, 3},
+    {9, 17},
+    {10, 17},
+    {11, 32},
+    {12, 32},
+    {SM_CXCURSOR, 32},
+    {SM_CYCURSOR, 32},
+    {15, 19},
+    {19, 1},
+    {20, 17},
+    {21, 17},
+    {28, 116},
+    {29, 27},
+    {30, 18},
+    {31, 18},
+    {SM_CXFRAME, 4},
+    {SM_CYFRAME, 4},
+    {34, 116},
+    {35, 27},
+    {SM_CXDOUBLECLK, 4},
+    {SM_CYDOUBLECLK, 4},
+    {43, 3},
+    {45, 2},
+    {46, 2},
+    {SM_CXDRAG, 4},
+    {SM_CYDRAG, 4},
+    {75, 1},
+    {80, 1},
+    {81, 1},
 };
 
 BOOL GetWorkArea(LPVOID out) {
@@ -53,10 +83,16 @@ int GetSystemMetrics(int nIndex) {
 
 BOOL SystemParametersInfoA(UINT nAction, UINT nParam, LPVOID pParam, UINT) {
     switch (nAction) {
-        case SPI_GETWORKAREA: return GetWorkArea(pParam);
-        case SPI_GETFONTSMOOTHING: return GetSmoothing(pParam);
-        case SPI_SETFONTSMOOTHING: SetFontSmoothing(nParam != 0); return TRUE;
-        default: SetLastError(ERROR_INVALID_PARAMETER); return FALSE;
+        case SPI_GETWORKAREA:
+            return GetWorkArea(pParam);
+        case SPI_GETFONTSMOOTHING:
+            return GetSmoothing(pParam);
+        case SPI_SETFONTSMOOTHING:
+            SetFontSmoothing(nParam != 0);
+            return TRUE;
+        default:
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return FALSE;
     }
 }
 

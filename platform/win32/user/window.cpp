@@ -63,6 +63,7 @@ bool IsSameOrChild(const Window& parent, const Window* window) {
 
 std::vector<HWND> HandlesOf(const std::vector<Window*>& windows) {
     std::vector<HWND> handles;
+    handles.reserve(windows.size());
     for (const Window* window : windows) handles.push_back(window->self);
     return handles;
 }

@@ -38,7 +38,8 @@ Target TargetOf(Window& window, const OpenDc& dc) {
     Window& root = RootOf(window);
     if (!root.surface) FitSurface(root);
     const POINT frame = FrameOnSurface(window), client = ClientInFrame(window);
-    Target target{root.surface, frame, dc.area == DcArea::Client ? VisibleClient(window) : VisibleWhole(window)};
+    Target target{root.surface, frame,
+                  dc.area == DcArea::Client ? VisibleClient(window) : VisibleWhole(window)};
     if (dc.area == DcArea::Client) target.origin = {frame.x + client.x, frame.y + client.y};
     if (dc.clipped) {
         Region clip = dc.clip;
@@ -58,7 +59,8 @@ void TakeDamage(const OpenDc& dc) {
 }
 
 std::vector<OpenDc>::iterator FindDc(HDC hdc) {
-    return std::find_if(OpenDcs().begin(), OpenDcs().end(), [hdc](const OpenDc& dc) { return dc.hdc == hdc; });
+    return std::find_if(OpenDcs().begin(), OpenDcs().end(),
+                        [hdc](const OpenDc& dc) { return dc.hdc == hdc; });
 }
 
 }  // namespace

@@ -48,14 +48,22 @@ LONG_PTR GetLong(HWND hWnd, int index) {
     const Window* window = WindowOf(hWnd);
     if (!window) return 0;
     switch (index) {
-        case GWL_STYLE: return static_cast<LONG>(window->style);
-        case GWL_EXSTYLE: return static_cast<LONG>(window->exStyle);
-        case GWLP_WNDPROC: return reinterpret_cast<LONG_PTR>(window->procedure);
-        case GWLP_HINSTANCE: return reinterpret_cast<LONG_PTR>(window->instance);
-        case GWLP_HWNDPARENT: return ParentLong(*window);
-        case GWLP_ID: return window->id;
-        case GWLP_USERDATA: return window->userData;
-        default: return ReadExtra<Extra>(*window, index);
+        case GWL_STYLE:
+            return static_cast<LONG>(window->style);
+        case GWL_EXSTYLE:
+            return static_cast<LONG>(window->exStyle);
+        case GWLP_WNDPROC:
+            return reinterpret_cast<LONG_PTR>(window->procedure);
+        case GWLP_HINSTANCE:
+            return reinterpret_cast<LONG_PTR>(window->instance);
+        case GWLP_HWNDPARENT:
+            return ParentLong(*window);
+        case GWLP_ID:
+            return window->id;
+        case GWLP_USERDATA:
+            return window->userData;
+        default:
+            return ReadExtra<Extra>(*window, index);
     }
 }
 
@@ -101,13 +109,20 @@ LONG_PTR SetLong(HWND hWnd, int index, LONG_PTR value) {
     if (!window) return 0;
     switch (index) {
         case GWL_STYLE:
-        case GWL_EXSTYLE: return SetStyle(hWnd, index, static_cast<DWORD>(value));
-        case GWLP_WNDPROC: return value ? Exchange(window->procedure, value) : RefuseIndex();
-        case GWLP_HINSTANCE: return Exchange(window->instance, value);
-        case GWLP_HWNDPARENT: return SetParentLong(*window, reinterpret_cast<HWND>(value));
-        case GWLP_ID: return Exchange(window->id, value);
-        case GWLP_USERDATA: return Exchange(window->userData, value);
-        default: return WriteExtra<Extra>(*window, index, value);
+        case GWL_EXSTYLE:
+            return SetStyle(hWnd, index, static_cast<DWORD>(value));
+        case GWLP_WNDPROC:
+            return value ? Exchange(window->procedure, value) : RefuseIndex();
+        case GWLP_HINSTANCE:
+            return Exchange(window->instance, value);
+        case GWLP_HWNDPARENT:
+            return SetParentLong(*window, reinterpret_cast<HWND>(value));
+        case GWLP_ID:
+            return Exchange(window->id, value);
+        case GWLP_USERDATA:
+            return Exchange(window->userData, value);
+        default:
+            return WriteExtra<Extra>(*window, index, value);
     }
 }
 
@@ -133,8 +148,8 @@ int GetWindowTextA(HWND hWnd, LPSTR pszText, int cchText) {
     if (!pszText || cchText <= 0) return 0;
     *pszText = 0;
     if (!WindowOf(hWnd)) return 0;
-    return static_cast<int>(SendMessageA(hWnd, WM_GETTEXT, static_cast<WPARAM>(cchText),
-                                         reinterpret_cast<LPARAM>(pszText)));
+    return static_cast<int>(
+        SendMessageA(hWnd, WM_GETTEXT, static_cast<WPARAM>(cchText), reinterpret_cast<LPARAM>(pszText)));
 }
 
 int GetWindowTextLengthA(HWND hWnd) {

@@ -14,8 +14,7 @@ namespace tavlon::win32 {
 
 namespace {
 
-constexpr UINT kNothingChanged =
-    SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | kSwpNoClientSize | kSwpNoClientMove;
+constexpr UINT kNothingChanged = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | kSwpNoClientSize | kSwpNoClientMove;
 constexpr UINT kAlwaysTold = SWP_SHOWWINDOW | SWP_HIDEWINDOW | SWP_FRAMECHANGED | kSwpStateChanged;
 
 bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
@@ -64,8 +63,7 @@ RECT WithinFrame(RECT client, const RECT& frame) {
 
 /// The client rectangle that goes with the new frame.
 RECT NewClient(Window& window, WINDOWPOS& pos, const RECT& frame) {
-    const RECT moved =
-        MovedRect(window.client, frame.left - window.frame.left, frame.top - window.frame.top);
+    const RECT moved = MovedRect(window.client, frame.left - window.frame.left, frame.top - window.frame.top);
     if ((pos.flags & SWP_NOSIZE) && !(pos.flags & SWP_FRAMECHANGED)) return moved;
     NcCalcSize params{{frame, window.frame, window.client}, &pos};
     const HWND hWnd = window.self;
@@ -76,7 +74,8 @@ RECT NewClient(Window& window, WINDOWPOS& pos, const RECT& frame) {
 void MarkClientChange(const Window& window, const RECT& client, bool anew, WINDOWPOS& pos) {
     const POINT old{window.client.left, window.client.top};
     if (!anew && SamePoint(old, {client.left, client.top})) pos.flags |= kSwpNoClientMove;
-    if (window.ClientWidth() == client.right - client.left && window.ClientHeight() == client.bottom - client.top)
+    if (window.ClientWidth() == client.right - client.left &&
+        window.ClientHeight() == client.bottom - client.top)
         pos.flags |= kSwpNoClientSize;
 }
 
@@ -168,7 +167,8 @@ MINMAXINFO AskSizeLimits(HWND hWnd) {
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
     const int border = GetSystemMetrics(SM_CXFRAME);
     const POINT whole{work.right - work.left + 2 * border, work.bottom - work.top + 2 * border};
-    MINMAXINFO limits{{0, 0}, whole, {-border, -border}, {kTrackWidth, kTrackHeight}, {whole.x + 4, whole.y + 4}};
+    MINMAXINFO limits{
+        {0, 0}, whole, {-border, -border}, {kTrackWidth, kTrackHeight}, {whole.x + 4, whole.y + 4}};
     SendMessageA(hWnd, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     return limits;
 }

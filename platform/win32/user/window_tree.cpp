@@ -68,7 +68,8 @@ const std::vector<Window*>* ListUnder(HWND hWnd) {
 Window* Neighbour(Window& window, int step) {
     const auto& order = SiblingsOf(window);
     const auto at = std::find(order.begin(), order.end(), &window) - order.begin() + step;
-    return at >= 0 && at < static_cast<std::ptrdiff_t>(order.size()) ? order[static_cast<std::size_t>(at)] : nullptr;
+    return at >= 0 && at < static_cast<std::ptrdiff_t>(order.size()) ? order[static_cast<std::size_t>(at)]
+                                                                     : nullptr;
 }
 
 void CollectDescendants(const Window& window, std::vector<HWND>& out) {
@@ -144,10 +145,14 @@ HWND GetAncestor(HWND hWnd, UINT nFlags) {
     Window* window = WindowOf(hWnd);
     if (!window) return nullptr;
     switch (nFlags) {
-        case GA_PARENT: return window->parent ? window->parent->self : GetDesktopWindow();
-        case GA_ROOT: return RootOf(*window).self;
-        case GA_ROOTOWNER: return RootOwner(*window)->self;
-        default: return nullptr;
+        case GA_PARENT:
+            return window->parent ? window->parent->self : GetDesktopWindow();
+        case GA_ROOT:
+            return RootOf(*window).self;
+        case GA_ROOTOWNER:
+            return RootOwner(*window)->self;
+        default:
+            return nullptr;
     }
 }
 
@@ -155,13 +160,20 @@ HWND GetWindow(HWND hWnd, UINT nCommand) {
     Window* window = WindowOf(hWnd);
     if (!window) return nullptr;
     switch (nCommand) {
-        case GW_HWNDFIRST: return SiblingsOf(*window).front()->self;
-        case GW_HWNDLAST: return SiblingsOf(*window).back()->self;
-        case GW_HWNDNEXT: return HandleOrNull(Neighbour(*window, 1));
-        case GW_HWNDPREV: return HandleOrNull(Neighbour(*window, -1));
-        case GW_OWNER: return window->owner;
-        case GW_CHILD: return window->children.empty() ? nullptr : window->children.front()->self;
-        default: return nullptr;
+        case GW_HWNDFIRST:
+            return SiblingsOf(*window).front()->self;
+        case GW_HWNDLAST:
+            return SiblingsOf(*window).back()->self;
+        case GW_HWNDNEXT:
+            return HandleOrNull(Neighbour(*window, 1));
+        case GW_HWNDPREV:
+            return HandleOrNull(Neighbour(*window, -1));
+        case GW_OWNER:
+            return window->owner;
+        case GW_CHILD:
+            return window->children.empty() ? nullptr : window->children.front()->self;
+        default:
+            return nullptr;
     }
 }
 

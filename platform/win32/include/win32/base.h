@@ -113,8 +113,8 @@ using LPCRECT = const RECT*;
 #define HIBYTE(value) (static_cast<BYTE>((static_cast<DWORD_PTR>(value) >> 8) & 0xff))
 #define MAKEWORD(low, high) \
     (static_cast<WORD>((static_cast<WORD>(low) & 0xff) | ((static_cast<WORD>(high) & 0xff) << 8)))
-#define MAKELONG(low, high)                                                                    \
-    (static_cast<LONG>(static_cast<DWORD>(static_cast<WORD>(static_cast<DWORD_PTR>(low))) |    \
+#define MAKELONG(low, high)                                                                 \
+    (static_cast<LONG>(static_cast<DWORD>(static_cast<WORD>(static_cast<DWORD_PTR>(low))) | \
                        (static_cast<DWORD>(static_cast<WORD>(static_cast<DWORD_PTR>(high))) << 16)))
 #define MAKELPARAM(low, high) (static_cast<LPARAM>(static_cast<DWORD>(MAKELONG(low, high))))
 #define MAKEWPARAM(low, high) (static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(low, high))))

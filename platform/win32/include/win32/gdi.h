@@ -3,10 +3,10 @@
 
 #include "win32/base.h"
 
-#define RGB(r, g, b)                                                                              \
+#define RGB(r, g, b)                                                                                    \
     (static_cast<COLORREF>(static_cast<BYTE>(r)) | (static_cast<COLORREF>(static_cast<BYTE>(g)) << 8) | \
      (static_cast<COLORREF>(static_cast<BYTE>(b)) << 16))
-#define GetRValue(clr) (static_cast<BYTE>((clr) & 0xff))
+#define GetRValue(clr) (static_cast<BYTE>((clr)&0xff))
 #define GetGValue(clr) (static_cast<BYTE>(((clr) >> 8) & 0xff))
 #define GetBValue(clr) (static_cast<BYTE>(((clr) >> 16) & 0xff))
 #define CLR_INVALID 0xffffffffu
@@ -241,7 +241,8 @@ TAVLON_PLATFORM_API HFONT CreateFontA(int nHeight, int nWidth, int nEscapement, 
                                       DWORD dwOutPrecision, DWORD dwClipPrecision, DWORD dwQuality,
                                       DWORD dwPitchAndFamily, LPCSTR pszFaceName);
 TAVLON_PLATFORM_API HFONT CreateFontIndirectA(const LOGFONTA* pFont);
-TAVLON_PLATFORM_API HBITMAP CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitCount, const void* pBits);
+TAVLON_PLATFORM_API HBITMAP CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitCount,
+                                         const void* pBits);
 TAVLON_PLATFORM_API HBITMAP CreateCompatibleBitmap(HDC hdc, int nWidth, int nHeight);
 TAVLON_PLATFORM_API HBITMAP CreateDIBitmap(HDC hdc, const BITMAPINFOHEADER* pHeader, DWORD dwInit,
                                            const void* pBits, const BITMAPINFO* pInfo, UINT nUsage);
@@ -297,8 +298,8 @@ TAVLON_PLATFORM_API BOOL BitBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hd
 TAVLON_PLATFORM_API BOOL StretchBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc,
                                     int cxSrc, int cySrc, DWORD dwRop);
 TAVLON_PLATFORM_API BOOL PatBlt(HDC hdc, int x, int y, int cx, int cy, DWORD dwRop);
-TAVLON_PLATFORM_API BOOL TransparentBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc,
-                                        int cxSrc, int cySrc, UINT clrTransparent);
+TAVLON_PLATFORM_API BOOL TransparentBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc,
+                                        int ySrc, int cxSrc, int cySrc, UINT clrTransparent);
 
 // Regions and clipping
 TAVLON_PLATFORM_API HRGN CreateRectRgn(int nLeft, int nTop, int nRight, int nBottom);

@@ -49,7 +49,8 @@ TAVLON_PLATFORM_API UINT GetACP();  ///< Always 936.
 TAVLON_PLATFORM_API int MultiByteToWideChar(UINT nCodePage, DWORD dwFlags, LPCSTR pszText, int cbText,
                                             LPWSTR pwszWide, int cchWide);
 TAVLON_PLATFORM_API int WideCharToMultiByte(UINT nCodePage, DWORD dwFlags, LPCWSTR pwszWide, int cchWide,
-                                            LPSTR pszText, int cbText, LPCSTR pszDefault, LPBOOL pbUsedDefault);
+                                            LPSTR pszText, int cbText, LPCSTR pszDefault,
+                                            LPBOOL pbUsedDefault);
 TAVLON_PLATFORM_API BOOL IsDBCSLeadByte(BYTE bTest);
 
 TAVLON_PLATFORM_API int MulDiv(int nNumber, int nNumerator, int nDenominator);

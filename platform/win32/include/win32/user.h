@@ -188,6 +188,7 @@
 #define SW_SHOWNORMAL 1
 #define SW_SHOWMINIMIZED 2
 #define SW_SHOWMAXIMIZED 3
+#define SW_MAXIMIZE SW_SHOWMAXIMIZED
 #define SW_SHOWNOACTIVATE 4
 #define SW_SHOW 5
 #define SW_MINIMIZE 6
@@ -497,9 +498,9 @@ TAVLON_PLATFORM_API int GetClassNameA(HWND hWnd, LPSTR pszName, int cchName);
 TAVLON_PLATFORM_API ULONG_PTR GetClassLongPtrA(HWND hWnd, int nIndex);
 
 // Creation and destruction
-TAVLON_PLATFORM_API HWND CreateWindowExA(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, int x,
-                                         int y, int cx, int cy, HWND hParent, HMENU hMenu, HINSTANCE hInstance,
-                                         LPVOID pParam);
+TAVLON_PLATFORM_API HWND CreateWindowExA(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle,
+                                         int x, int y, int cx, int cy, HWND hParent, HMENU hMenu,
+                                         HINSTANCE hInstance, LPVOID pParam);
 TAVLON_PLATFORM_API BOOL DestroyWindow(HWND hWnd);
 TAVLON_PLATFORM_API BOOL IsWindow(HWND hWnd);
 TAVLON_PLATFORM_API HHOOK SetWindowsHookExA(int nHook, HOOKPROC pfnHook, HINSTANCE hModule, DWORD dwThread);
@@ -541,7 +542,8 @@ TAVLON_PLATFORM_API BOOL EnableWindow(HWND hWnd, BOOL bEnable);
 TAVLON_PLATFORM_API BOOL IsIconic(HWND hWnd);
 TAVLON_PLATFORM_API BOOL IsZoomed(HWND hWnd);
 TAVLON_PLATFORM_API BOOL MoveWindow(HWND hWnd, int x, int y, int cx, int cy, BOOL bRepaint);
-TAVLON_PLATFORM_API BOOL SetWindowPos(HWND hWnd, HWND hInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+TAVLON_PLATFORM_API BOOL SetWindowPos(HWND hWnd, HWND hInsertAfter, int x, int y, int cx, int cy,
+                                      UINT nFlags);
 TAVLON_PLATFORM_API BOOL BringWindowToTop(HWND hWnd);
 TAVLON_PLATFORM_API BOOL GetClientRect(HWND hWnd, LPRECT pRect);
 TAVLON_PLATFORM_API BOOL GetWindowRect(HWND hWnd, LPRECT pRect);
@@ -648,7 +650,8 @@ TAVLON_PLATFORM_API DWORD GetSysColor(int nIndex);
 TAVLON_PLATFORM_API HBRUSH GetSysColorBrush(int nIndex);
 TAVLON_PLATFORM_API int GetSystemMetrics(int nIndex);
 TAVLON_PLATFORM_API BOOL SystemParametersInfoA(UINT nAction, UINT nParam, LPVOID pParam, UINT nWinIni);
-TAVLON_PLATFORM_API DWORD GetGuiResources(HANDLE hProcess, DWORD dwFlags);  ///< Objects alive in this process.
+TAVLON_PLATFORM_API DWORD GetGuiResources(HANDLE hProcess,
+                                          DWORD dwFlags);  ///< Objects alive in this process.
 
 // Rectangles
 TAVLON_PLATFORM_API BOOL SetRect(LPRECT pRect, int nLeft, int nTop, int nRight, int nBottom);

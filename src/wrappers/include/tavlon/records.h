@@ -107,7 +107,7 @@ struct tagTabItemData {
 #pragma pack(pop)
 
 /// Layout and look of a tab strip, fixed when it is created.
-enum tagTabCtrlStyle {
+enum tagTabCtrlStyle : int {
     TAB_HORZ_CHAMFER = 0,  ///< Side by side, lower corners cut.
     TAB_HORZ_BOX = 1,      ///< Side by side, plain boxes.
     TAB_VERT_CHAMFER = 2,  ///< Stacked, left corners cut, vertical captions.

@@ -1,0 +1,178 @@
+/// Handles, selection, deletion, fresh device contexts, saved states.
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "gdi/picture.h"
+
+namespace {
+
+using gdi_test::Picture;
+
+class GdiObjects : public testing::Test {
+protected:
+    HDC m_dc = CreateCompatibleDC(nullptr);
+    void TearDown() override { DeleteDC(m_dc); }
+};
+
+TEST_F(GdiObjects, AFreshContext) {
+    BITMAP bitmap{};
+    EXPECT_EQ(static_cast<int>(sizeof bitmap),
+              GetObjectA(GetCurrentObject(m_dc, OBJ_BITMAP), sizeof bitmap, &bitmap));
+    EXPECT_EQ(1, bitmap.bmWidth);
+    EXPECT_EQ(1, bitmap.bmHeight);
+    EXPECT_EQ(1, bitmap.bmBitsPixel);
+    EXPECT_EQ(GetStockObject(BLACK_PEN), GetCurrentObject(m_dc, OBJ_PEN));
+    EXPECT_EQ(GetStockObject(WHITE_BRUSH), GetCurrentObject(m_dc, OBJ_BRUSH));
+    EXPECT_EQ(GetStockObject(SYSTEM_FONT), GetCurrentObject(m_dc, OBJ_FONT));
+    EXPECT_EQ(0u, GetTextColor(m_dc));
+    EXPECT_EQ(0xffffffu, GetBkColor(m_dc));
+    EXPECT_EQ(OPAQUE, GetBkMode(m_dc));
+    EXPECT_EQ(0u, GetTextAlign(m_dc));
+    EXPECT_EQ(R2_COPYPEN, GetROP2(m_dc));
+    EXPECT_EQ(ALTERNATE, GetPolyFillMode(m_dc));
+    EXPECT_EQ(BLACKONWHITE, GetStretchBltMode(m_dc));
+    EXPECT_EQ(MM_TEXT, GetMapMode(m_dc));
+    EXPECT_EQ(static_cast<DWORD>(OBJ_MEMDC), GetObjectType(m_dc));
+}
+
+TEST_F(GdiObjects, SelectingAnswersTheOldObject) {
+    HPEN pen = CreatePen(PS_SOLID, 2, 0);
+    HBRUSH brush = CreateSolidBrush(0);
+    HFONT font = CreateFontA(12, 0, 0, 0, FW_NORMAL, 0, 0, 0, 1, 0, 0, 0, 0, "x");
+    EXPECT_EQ(GetStockObject(BLACK_PEN), SelectObject(m_dc, pen));
+    EXPECT_EQ(GetStockObject(WHITE_BRUSH), SelectObject(m_dc, brush));
+    EXPECT_EQ(GetStockObject(SYSTEM_FONT), SelectObject(m_dc, font));
+    EXPECT_EQ(pen, SelectObject(m_dc, GetStockObject(NULL_PEN)));
+    EXPECT_EQ(brush, GetCurrentObject(m_dc, OBJ_BRUSH));
+    DeleteDC(m_dc), m_dc = CreateCompatibleDC(nullptr);
+    for (HGDIOBJ object : {HGDIOBJ(pen), HGDIOBJ(brush), HGDIOBJ(font)}) EXPECT_TRUE(DeleteObject(object));
+}
+
+TEST_F(GdiObjects, ABitmapIsInOneMemoryContextAtATime) {
+    HBITMAP bitmap = CreateBitmap(3, 3, 1, 32, nullptr);
+    HDC other = CreateCompatibleDC(nullptr);
+    HGDIOBJ old = SelectObject(m_dc, bitmap);
+    EXPECT_NE(nullptr, old);
+    EXPECT_EQ(nullptr, SelectObject(other, bitmap));
+    EXPECT_EQ(bitmap, SelectObject(m_dc, old));
+    EXPECT_EQ(old, SelectObject(other, bitmap));
+    DeleteDC(other);
+    EXPECT_EQ(old, SelectObject(m_dc, bitmap));  // a deleted context lets go
+    SelectObject(m_dc, old);
+    DeleteObject(bitmap);
+}
+
+TEST_F(GdiObjects, DeletingASelectedObjectWaits) {
+    HPEN pen = CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+    SelectObject(m_dc, pen);
+    EXPECT_TRUE(DeleteObject(pen));
+    LOGPEN record{};
+    EXPECT_NE(0, GetObjectA(pen, sizeof record, &record));
+    EXPECT_EQ(RGB(1, 2, 3), record.lopnColor);
+    EXPECT_EQ(pen, SelectObject(m_dc, GetStockObject(BLACK_PEN)));
+    EXPECT_EQ(0u, GetObjectType(pen));
+    EXPECT_EQ(nullptr, SelectObject(m_dc, pen));
+    EXPECT_FALSE(DeleteObject(pen));
+}
+
+TEST_F(GdiObjects, StockObjectsStay) {
+    HGDIOBJ pen = GetStockObject(BLACK_PEN);
+    EXPECT_TRUE(DeleteObject(pen));
+    EXPECT_EQ(static_cast<DWORD>(OBJ_PEN), GetObjectType(pen));
+    EXPECT_EQ(nullptr, GetStockObject(-1));
+    EXPECT_EQ(nullptr, GetStockObject(9));
+    EXPECT_EQ(pen, GetStockObject(BLACK_PEN));
+    EXPECT_TRUE(DeleteObject(GetSysColorBrush(COLOR_WINDOW)));
+    EXPECT_EQ(static_cast<DWORD>(OBJ_BRUSH), GetObjectType(GetSysColorBrush(COLOR_WINDOW)));
+}
+
+TEST_F(GdiObjects, CompatibleBitmapsFollowTheContext) {
+    HBITMAP mono = CreateCompatibleBitmap(m_dc, 9, 4);
+    BITMAP record{};
+    GetObjectA(mono, sizeof record, &record);
+    EXPECT_EQ(1, record.bmBitsPixel);
+    EXPECT_EQ(2, record.bmWidthBytes);
+    Picture picture(2, 2);
+    HBITMAP colour = CreateCompatibleBitmap(picture.Dc(), 9, 4);
+    GetObjectA(colour, sizeof record, &record);
+    EXPECT_EQ(32, record.bmBitsPixel);
+    EXPECT_EQ(36, record.bmWidthBytes);
+    GetObjectA(picture.Bitmap(), sizeof record, &record);
+    EXPECT_NE(nullptr, record.bmBits);
+    DeleteObject(mono), DeleteObject(colour);
+}
+
+TEST_F(GdiObjects, SavedStates) {
+    EXPECT_EQ(1, SaveDC(m_dc));
+    SetTextColor(m_dc, RGB(1, 1, 1));
+    SetROP2(m_dc, R2_XORPEN);
+    MoveToEx(m_dc, 5, 6, nullptr);
+    HPEN pen = CreatePen(PS_SOLID, 1, 0);
+    SelectObject(m_dc, pen);
+    EXPECT_EQ(2, SaveDC(m_dc));
+    SelectObject(m_dc, GetStockObject(WHITE_PEN));
+    EXPECT_TRUE(DeleteObject(pen));  // held by the saved state
+    EXPECT_FALSE(RestoreDC(m_dc, 3));
+    EXPECT_FALSE(RestoreDC(m_dc, 0));
+    EXPECT_FALSE(RestoreDC(m_dc, -3));
+    EXPECT_TRUE(RestoreDC(m_dc, 1));
+    EXPECT_EQ(0u, GetTextColor(m_dc));
+    EXPECT_EQ(R2_COPYPEN, GetROP2(m_dc));
+    EXPECT_EQ(GetStockObject(BLACK_PEN), GetCurrentObject(m_dc, OBJ_PEN));
+    EXPECT_FALSE(RestoreDC(m_dc, -1));
+}
+
+TEST_F(GdiObjects, Records) {
+    LOGPEN pen{};
+    HPEN null = CreatePen(PS_NULL, 7, 5);
+    GetObjectA(null, sizeof pen, &pen);
+    EXPECT_EQ(static_cast<UINT>(PS_NULL), pen.lopnStyle);
+    HPEN odd = CreatePen(99, -5, 5);
+    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, 100, &pen));
+    EXPECT_EQ(static_cast<UINT>(PS_SOLID), pen.lopnStyle);
+    EXPECT_EQ(5, pen.lopnWidth.x);
+    EXPECT_EQ(0, GetObjectA(odd, 4, &pen));
+    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, 0, nullptr));
+    DeleteObject(odd);
+
+    LOGFONTA font{};
+    HFONT made =
+        CreateFontA(14, 0, 0, 0, FW_BOLD, 1, 0, 0, 1, 0, 0, 2, 0, "a name of more than thirty-one bytes");
+    EXPECT_EQ(static_cast<int>(sizeof font), GetObjectA(made, sizeof font, &font));
+    EXPECT_EQ(std::size_t{31}, std::strlen(font.lfFaceName));
+    EXPECT_EQ(14, font.lfHeight);
+    EXPECT_EQ(FW_BOLD, font.lfWeight);
+    DeleteObject(made);
+}
+
+TEST_F(GdiObjects, AttributesRefuseValuesOutOfRange) {
+    EXPECT_EQ(0, SetBkMode(m_dc, 3));
+    EXPECT_EQ(0, SetROP2(m_dc, 17));
+    EXPECT_EQ(0, SetPolyFillMode(m_dc, 0));
+    EXPECT_EQ(0, SetStretchBltMode(m_dc, 9));
+    EXPECT_EQ(OPAQUE, GetBkMode(m_dc));
+    EXPECT_EQ(R2_COPYPEN, GetROP2(m_dc));
+    EXPECT_EQ(RGB(0, 0, 0), SetTextColor(m_dc, RGB(9, 9, 9)));
+    EXPECT_EQ(RGB(9, 9, 9), SetTextColor(m_dc, RGB(1, 1, 1)));
+}
+
+TEST_F(GdiObjects, Origins) {
+    POINT point{};
+    EXPECT_TRUE(SetViewportOrgEx(m_dc, 5, 6, nullptr));
+    EXPECT_TRUE(SetWindowOrgEx(m_dc, 1, 2, &point));
+    EXPECT_EQ(0, point.x);
+    point = {10, 10};
+    EXPECT_TRUE(LPtoDP(m_dc, &point, 1));
+    EXPECT_EQ(14, point.x);
+    EXPECT_EQ(14, point.y);
+    EXPECT_TRUE(DPtoLP(m_dc, &point, 1));
+    EXPECT_EQ(10, point.x);
+    EXPECT_TRUE(MoveToEx(m_dc, 3, 4, nullptr));
+    EXPECT_TRUE(LineTo(m_dc, 7, 8));
+    EXPECT_TRUE(GetCurrentPositionEx(m_dc, &point));
+    EXPECT_EQ(7, point.x);
+    EXPECT_EQ(8, point.y);
+}
+
+}  // namespace

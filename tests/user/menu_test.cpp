@@ -1,0 +1,200 @@
+#include <gtest/gtest.h>
+
+#include "recorder.h"
+
+using namespace user_test;
+
+namespace {
+
+constexpr int kLeft = 300, kTop = 300;
+
+/// 101 "one", a separator, 102 greyed, 103 "three", "sub" with 201, 104 checked.
+HMENU MakeMenu() {
+    const HMENU hMenu = CreatePopupMenu(), hSub = CreatePopupMenu();
+    AppendMenu(hSub, MF_STRING, 201, "sub one");
+    AppendMenu(hMenu, MF_STRING, 101, "&one");
+    AppendMenu(hMenu, MF_SEPARATOR, 0, nullptr);
+    AppendMenu(hMenu, MF_STRING | MF_GRAYED, 102, "grey");
+    AppendMenu(hMenu, MF_STRING, 103, "t&hree");
+    AppendMenu(hMenu, MF_POPUP, reinterpret_cast<UINT_PTR>(hSub), "sub");
+    AppendMenu(hMenu, MF_STRING | MF_CHECKED, 104, "four");
+    return hMenu;
+}
+
+TEST(UserMenuModel, EntriesAreFoundByPositionAndThroughSubmenusById) {
+    const HMENU hMenu = MakeMenu();
+    EXPECT_EQ(6, GetMenuItemCount(hMenu));
+    EXPECT_EQ(103u, GetMenuItemID(hMenu, 3));
+    EXPECT_EQ(0xffffffffu, GetMenuItemID(hMenu, 4)) << "a submenu has no id";
+    EXPECT_EQ(0xffffffffu, GetMenuItemID(hMenu, 6));
+    EXPECT_EQ(1, GetMenuItemCount(GetSubMenu(hMenu, 4)));
+    EXPECT_EQ(nullptr, GetSubMenu(hMenu, 0));
+    char szText[8];
+    EXPECT_EQ(7, GetMenuString(hMenu, 201, szText, sizeof szText, MF_BYCOMMAND));
+    EXPECT_STREQ("sub one", szText);
+    char szShort[8] = {};
+    EXPECT_EQ(3, GetMenuString(hMenu, 201, szShort, 4, MF_BYCOMMAND));
+    EXPECT_EQ("sub", std::string(szShort, 3));
+    DestroyMenu(hMenu);
+}
+
+TEST(UserMenuModel, StatesChangeAndAreTold) {
+    const HMENU hMenu = MakeMenu();
+    EXPECT_EQ(static_cast<UINT>(MF_GRAYED), GetMenuState(hMenu, 102, MF_BYCOMMAND));
+    EXPECT_EQ(static_cast<UINT>(MF_POPUP | (1 << 8)), GetMenuState(hMenu, 4, MF_BYPOSITION));
+    EXPECT_EQ(0xffffffffu, GetMenuState(hMenu, 999, MF_BYCOMMAND));
+    EXPECT_EQ(static_cast<DWORD>(MF_CHECKED), CheckMenuItem(hMenu, 104, MF_UNCHECKED));
+    EXPECT_EQ(0u, GetMenuState(hMenu, 104, MF_BYCOMMAND) & MF_CHECKED);
+    EXPECT_EQ(0xffffffffu, CheckMenuItem(hMenu, 999, MF_CHECKED));
+    EXPECT_EQ(static_cast<BOOL>(MF_GRAYED), EnableMenuItem(hMenu, 102, MF_ENABLED));
+    EXPECT_TRUE(CheckMenuRadioItem(hMenu, 101, 104, 103, MF_BYCOMMAND));
+    EXPECT_NE(0u, GetMenuState(hMenu, 103, MF_BYCOMMAND) & MF_CHECKED);
+    EXPECT_TRUE(ModifyMenu(hMenu, 101, MF_BYCOMMAND | MF_GRAYED, 105, "other"));
+    EXPECT_EQ(105u, GetMenuItemID(hMenu, 0));
+    DestroyMenu(hMenu);
+}
+
+TEST(UserMenuModel, DestroyingTakesSubmenusAlong) {
+    const HMENU hMenu = MakeMenu(), hSub = GetSubMenu(hMenu, 4);
+    EXPECT_TRUE(DestroyMenu(hMenu));
+    EXPECT_FALSE(IsMenu(hMenu));
+    EXPECT_FALSE(IsMenu(hSub));
+    EXPECT_FALSE(DestroyMenu(hMenu));
+    EXPECT_FALSE(AppendMenu(hMenu, MF_STRING, 1, "x"));
+    EXPECT_EQ(-1, GetMenuItemCount(hMenu));
+}
+
+/// What a timer does, tick by tick, while a menu is tracked. After the last step the menu is ended.
+std::vector<std::function<void()>> g_steps;
+std::size_t g_nStep;
+
+void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+    if (g_nStep < g_steps.size())
+        g_steps[g_nStep]();
+    else
+        EndMenu();
+    ++g_nStep;
+}
+
+class UserMenuTracking : public testing::Test {
+protected:
+    UserMenuTracking() {
+        m_recorder.Only({WM_ENTERMENULOOP, WM_INITMENU, WM_INITMENUPOPUP, WM_MENUSELECT, WM_UNINITMENUPOPUP,
+                         WM_EXITMENULOOP, WM_COMMAND});
+        m_recorder.On(WM_MENUSELECT, [this](const Message& message) -> LRESULT {
+            m_selected.push_back(MAKELONG(LOWORD(message.wParam), HIWORD(message.wParam)));
+            return 0;
+        });
+        m_recorder.On(WM_COMMAND,
+                      [this](const Message& message) -> LRESULT { return m_wCommand = message.wParam, 0; });
+    }
+    ~UserMenuTracking() override { DestroyMenu(m_hMenu); }
+
+    BOOL Track(std::vector<std::function<void()>> steps, UINT nFlags = TPM_RIGHTBUTTON) {
+        g_steps = std::move(steps), g_nStep = 0;
+        m_selected.clear();
+        m_recorder.Clear();
+        const UINT_PTR nTimer = SetTimer(nullptr, 0, 100, Tick);
+        const BOOL bResult = TrackPopupMenu(m_hMenu, nFlags, kLeft, kTop, 0, m_hTop, nullptr);
+        KillTimer(nullptr, nTimer);
+        m_wCommand = 0;
+        Pump();
+        return bResult;
+    }
+    static std::function<void()> Keys(std::vector<int> keys) {
+        return [keys] {
+            for (int nKey : keys) Press(nKey);
+        };
+    }
+
+    Recorder m_recorder;
+    HWND m_hTop = m_recorder.CreateTop();
+    HMENU m_hMenu = MakeMenu();
+    std::vector<LONG> m_selected;  ///< Id in the low word, flags in the high word.
+    WPARAM m_wCommand = 0;
+};
+
+TEST_F(UserMenuTracking, KeyboardChoosesAndPostsTheCommand) {
+    EXPECT_TRUE(Track({Keys({VK_DOWN, VK_DOWN, VK_DOWN}), Keys({VK_RETURN})}));
+    EXPECT_EQ(
+        "top.ENTERMENULOOP top.INITMENU top.INITMENUPOPUP top.MENUSELECT top.MENUSELECT top.MENUSELECT "
+        "top.UNINITMENUPOPUP top.MENUSELECT top.EXITMENULOOP top.COMMAND",
+        Joined(m_recorder.Take()));
+    EXPECT_EQ(103u, m_wCommand);
+    const std::vector<LONG> want{MAKELONG(101, MF_HILITE), MAKELONG(102, MF_HILITE | MF_GRAYED),
+                                 MAKELONG(103, MF_HILITE), MAKELONG(0, 0xffff)};
+    EXPECT_EQ(want, m_selected) << "the separator is stepped over, the greyed entry is not";
+}
+
+TEST_F(UserMenuTracking, ResultsOfTheKeyboard) {
+    struct Case {
+        const char* pszName;
+        std::vector<int> keys;
+        BOOL bWant;
+    };
+    const Case cases[] = {
+        {"escape", {VK_ESCAPE}, 0},
+        {"mnemonic", {'H'}, 103},
+        {"up from nothing is the last", {VK_UP, VK_RETURN}, 104},
+        {"down around the end", {VK_UP, VK_DOWN, VK_RETURN}, 101},
+        {"end and home", {VK_END, VK_HOME, VK_RETURN}, 101},
+        {"greyed", {VK_DOWN, VK_DOWN, VK_RETURN}, 0},
+        {"into the submenu", {VK_UP, VK_UP, VK_RIGHT, VK_RETURN}, 201},
+        {"escape leaves the submenu alone", {VK_UP, VK_UP, VK_RIGHT, VK_ESCAPE, VK_DOWN, VK_RETURN}, 104},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.pszName);
+        EXPECT_EQ(c.bWant, Track({Keys(c.keys)}, TPM_RETURNCMD));
+        EXPECT_EQ(0u, m_wCommand) << "the command is returned, not posted";
+    }
+}
+
+TEST_F(UserMenuTracking, MouseChoosesTheEntryUnderIt) {
+    EXPECT_TRUE(Track({[] { SetCursorPos(kLeft + 15, kTop + 12); },
+                       [] {
+                           mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+                           mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+                       }}));
+    EXPECT_EQ(101u, m_wCommand);
+}
+
+TEST_F(UserMenuTracking, ClickOutsideEndsTheMenuAndStillArrives) {
+    int nPresses = 0;
+    m_recorder.On(WM_LBUTTONDOWN, [&](const Message&) -> LRESULT { return ++nPresses, 0; });
+    EXPECT_TRUE(Track({[] {
+        SetCursorPos(160, 200);
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    }}));
+    EXPECT_EQ(1, nPresses);
+    EXPECT_EQ(0u, m_wCommand);
+    EXPECT_LE(g_nStep, 1u) << "ended by the click, not by the test";
+}
+
+TEST_F(UserMenuTracking, NoNotifyLeavesTheOpeningOut) {
+    EXPECT_EQ(101, Track({Keys({VK_DOWN, VK_RETURN})}, TPM_RETURNCMD | TPM_NONOTIFY));
+    EXPECT_EQ("top.MENUSELECT top.MENUSELECT top.EXITMENULOOP", Joined(m_recorder.Take()));
+}
+
+TEST_F(UserMenuTracking, OwnersChangesShowWhileItOpens) {
+    m_recorder.On(WM_INITMENUPOPUP, [](const Message& message) -> LRESULT {
+        EnableMenuItem(reinterpret_cast<HMENU>(message.wParam), 101, MF_BYCOMMAND | MF_GRAYED);
+        return 0;
+    });
+    EXPECT_EQ(0, Track({Keys({VK_DOWN, VK_RETURN})}, TPM_RETURNCMD));
+}
+
+TEST_F(UserMenuTracking, PostedMessagesFlow) {
+    int nPosted = 0;
+    m_recorder.On(WM_APP, [&](const Message&) -> LRESULT { return ++nPosted, 0; });
+    PostMessage(m_hTop, WM_APP, 0, 0);
+    Track({[&] { EXPECT_EQ(1, nPosted); }});
+}
+
+TEST_F(UserMenuTracking, BadArgumentsAreRefused) {
+    EXPECT_FALSE(TrackPopupMenu(nullptr, 0, 0, 0, 0, m_hTop, nullptr));
+    EXPECT_FALSE(TrackPopupMenu(m_hMenu, 0, 0, 0, 0, nullptr, nullptr));
+    EXPECT_EQ("", Joined(m_recorder.Take()));
+}
+
+}  // namespace
