@@ -33,12 +33,18 @@ status=0
 TAVLON_STEPS=${TAVLON_STEPS:-10000} in_wine build/windows/bin/tavlon_tests.exe --gtest_brief=1 "$@" || status=1
 
 build release -DBUILD_TESTING=ON "${werror[@]}" -- tavlon_gallery compare_pictures
-for size in 800x600 637x411; do
-    got=build/windows/pictures/$size want=build/release/pictures/$size
-    rm -rf "$got" "$want"
-    in_wine build/windows/bin/tavlon_gallery.exe --render "$got" --size $size --plain-text
-    env -u FONTCONFIG_FILE build/release/bin/tavlon_gallery --render "$want" --size $size --plain-text
-    (cd "$want" && ls ./*.png) | xargs build/release/bin/compare_pictures "$got" "$want" || status=1
-done
+pictures=build/pictures
+rm -rf $pictures
+# draw NAME ARGUMENTS...: the gallery run with these arguments on both platforms, and its pictures compared.
+draw() {
+    local got=$PWD/$pictures/windows/$1 want=$PWD/$pictures/native/$1 native=$PWD/build/release/bin windows=$PWD/build/windows/bin
+    shift
+    mkdir -p "$got" "$want"
+    (cd "$got" && in_wine "$windows/tavlon_gallery.exe" "$@" --plain-text >/dev/null)
+    (cd "$want" && env -u FONTCONFIG_FILE "$native/tavlon_gallery" "$@" --plain-text >/dev/null)
+    (cd "$want" && ls ./*.png) | sed 's,^\./,,' | xargs "$native/compare_pictures" "$got" "$want" || status=1
+}
+for size in 800x600 637x411; do draw $size --render . --size $size; done
+for script in tests/scripts/*.txt; do draw "$(basename "$script" .txt)" --script "../../../../$script"; done
 wineserver -k || true
 exit $status

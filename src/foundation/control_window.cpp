@@ -25,9 +25,19 @@ BOOL UseControlClass(const ControlNames& names, CREATESTRUCT& cs) {
     return TRUE;
 }
 
-void TakeFocusOnClick(CWnd& wnd, const MSG* pMsg) {
+namespace {
+/// False when the window went away on the way: the one who loses the focus is told at once and may destroy
+/// the control, so that `wnd` must not be used any more.
+bool TakeFocusOnClick(CWnd& wnd, const MSG& msg) {
     const HWND hWnd = wnd.GetSafeHwnd();
-    if (hWnd == nullptr || pMsg->hwnd != hWnd) return;
-    const bool bButton = pMsg->message >= WM_LBUTTONDOWN && pMsg->message <= WM_RBUTTONDBLCLK;
-    if (bButton && ::GetFocus() != hWnd) ::SetFocus(hWnd);
+    if (hWnd == nullptr || msg.hwnd != hWnd) return true;
+    const bool bButton = msg.message >= WM_LBUTTONDOWN && msg.message <= WM_RBUTTONDBLCLK;
+    if (!bButton || ::GetFocus() == hWnd) return true;
+    ::SetFocus(hWnd);
+    return CWnd::FromHandlePermanent(hWnd) == &wnd;
+}
+}  // namespace
+
+BOOL PreTranslateTakingFocus(CWnd& wnd, MSG* pMsg) {
+    return TakeFocusOnClick(wnd, *pMsg) && wnd.CWnd::PreTranslateMessage(pMsg);
 }

@@ -20,8 +20,9 @@ BOOL CreateControlWindow(CWnd& wnd, const ControlNames& names, CWnd* pParent, co
 /// For PreCreateWindow: registers the control's own class, unless it exists, and makes the window take it.
 BOOL UseControlClass(const ControlNames& names, CREATESTRUCT& cs);
 
-/// For PreTranslateMessage: a mouse button on `wnd` itself gives it the keyboard focus.
-void TakeFocusOnClick(CWnd& wnd, const MSG* pMsg);
+/// PreTranslateMessage of a control that takes the keyboard focus when a mouse button is pressed on it.
+/// `wnd` may be gone when this returns: the caller only passes the result on.
+BOOL PreTranslateTakingFocus(CWnd& wnd, MSG* pMsg);
 
 /// The setter of a control that shows a new value at once, or at the first paint while it has no window.
 template <class Value>

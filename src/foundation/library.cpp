@@ -19,5 +19,7 @@ BOOL AttachLibrary(HINSTANCE hInstance) {
 void DetachLibrary() {
     ReleaseKaiTiFont();
     AfxTermExtensionModule(s_module);
+    // A control that loads its bitmaps makes the library's module the current one and leaves it so.
+    if (AfxGetResourceHandle() == s_hInstance) AfxSetResourceHandle(AfxGetInstanceHandle());
     s_hInstance = nullptr;
 }

@@ -10,5 +10,6 @@ HINSTANCE LibraryInstance();
 /// Called once by the load hook.
 BOOL AttachLibrary(HINSTANCE hInstance);
 
-/// Undoes AttachLibrary and frees what the library shares between controls. Called once by the load hook.
+/// Undoes AttachLibrary, makes the program the current resource module if the library was, and frees what the
+/// library shares between controls. Called once by the load hook.
 void DetachLibrary();

@@ -15,9 +15,7 @@ struct LabelColumn {
     double dFirst;
     double dLast;
 
-    double Value(long long i) const {
-        return static_cast<double>(i) * (dLast - dFirst) / nDivisions + dFirst;
-    }
+    double Value(long long i) const { return ScaleStep(dFirst, dLast, static_cast<int>(i), nDivisions); }
     int Y(long long i) const {
         return SaturateToInt(nTop + ((nDivisions - i) * nHeight) / nDivisions - k_nLabelRise);
     }
@@ -29,17 +27,25 @@ void ForEachLabel(const LabelColumn& column, bool bFirst, bool bLast, Draw draw)
     for (long long i = bFirst ? 0 : 1; i <= column.nDivisions - (bLast ? 0 : 1); ++i) draw(i);
 }
 
+void PutText(CDC& dc, int x, int y, const std::string& text) {
+    dc.TextOut(x, y, text.c_str(), static_cast<int>(text.size()));
+}
+}  // namespace
+
+double ScaleStep(double dFirst, double dLast, int nStep, int nSteps) {
+    const double dValue = nStep * (dLast - dFirst) / nSteps + dFirst;
+    if (std::isfinite(dValue) || nSteps == 0) return dValue;
+    // The span of two huge values overflows where each share of them does not.
+    const double dShare = static_cast<double>(nStep) / nSteps;
+    return dFirst * (1 - dShare) + dLast * dShare;
+}
+
 std::string ScaleText(double dValue, int nDecimals) {
     if (!(dValue >= 1000000)) return FormatFixed(dValue, nDecimals);
     char szText[64] = "";
     FormatBigNumber(szText, 8, dValue);
     return szText;
 }
-
-void PutText(CDC& dc, int x, int y, const std::string& text) {
-    dc.TextOut(x, y, text.c_str(), static_cast<int>(text.size()));
-}
-}  // namespace
 
 void DrawValueScale(CDC* pDC, COLORREF textColour, int divisions, int left, int top, int /*right*/,
                     int bottom, double minValue, double maxValue, BOOL drawFirst, BOOL drawLast,

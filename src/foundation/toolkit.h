@@ -17,6 +17,14 @@ char* FormatBigNumber(char* buffer, int maxLen, double value);
 /// The value with that many decimals, which are held to 0 to 100. NaN gives "nan".
 std::string FormatFixed(double dValue, int nDecimals);
 
+/// The value of label nStep on a scale of nSteps equal steps from dFirst (label 0) to dLast (label nSteps).
+/// Between finite ends it is finite, however far apart they are. nSteps is not 0.
+double ScaleStep(double dFirst, double dLast, int nStep, int nSteps);
+
+/// The text of a scale label: with that many decimals, from 1000000 on in big units of at most 8 bytes, and
+/// empty where FormatBigNumber gives null.
+std::string ScaleText(double dValue, int nDecimals);
+
 /// Selects the library's shared label font at that cell height and returns the font before it, which the
 /// caller selects back before the next call: the shared font is made anew each time.
 CFont* SelectKaiTiFont(CDC* pDC, int height);
@@ -50,7 +58,7 @@ void DrawTextInRect(CDC* pDC, const char* text, CRect rect, int height, COLORREF
 void DrawNoFillRect(CDC* pDC, CRect rect, int width, COLORREF colour);
 
 /// Draws the bitmap with its top left corner at (x, y), leaving out every pixel of the transparent colour.
-/// The bitmap must be selected nowhere and keeps its contents.
+/// The bitmap keeps its contents. Draws nothing while it is selected into a device context.
 void DrawTransparentBitmap(HDC hdc, int x, int y, HBITMAP bitmap, COLORREF transparent);
 
 /// Square root worked out in double precision and rounded to float.

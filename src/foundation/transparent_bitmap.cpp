@@ -1,7 +1,9 @@
+#include <initializer_list>
+
 #include "toolkit.h"
 
 namespace {
-/// A memory context with a bitmap selected into it.
+/// A memory context with a bitmap selected into it, if that can be had.
 class MemoryCanvas {
 public:
     MemoryCanvas(HDC hdc, HBITMAP hBitmap, bool bOwned)
@@ -16,6 +18,7 @@ public:
     MemoryCanvas(const MemoryCanvas&) = delete;
     MemoryCanvas& operator=(const MemoryCanvas&) = delete;
     HDC Dc() const { return m_hdc; }
+    bool Selected() const { return m_hOld != nullptr; }
 
 private:
     HDC m_hdc;
@@ -36,6 +39,9 @@ void DrawTransparentBitmap(HDC hdc, int x, int y, HBITMAP bitmap, COLORREF trans
     const MemoryCanvas object(hdc, ::CreateBitmap(cx, cy, 1, 1, nullptr), true);
     const MemoryCanvas memory(hdc, ::CreateCompatibleBitmap(hdc, cx, cy), true);
     const MemoryCanvas save(hdc, ::CreateCompatibleBitmap(hdc, cx, cy), true);
+    for (const MemoryCanvas* pCanvas : {&picture, &back, &object, &memory, &save}) {
+        if (!pCanvas->Selected()) return;
+    }
     ::SetMapMode(picture.Dc(), ::GetMapMode(hdc));
     const auto Copy = [cx, cy](const MemoryCanvas& to, const MemoryCanvas& from, DWORD dwRop) {
         ::BitBlt(to.Dc(), 0, 0, cx, cy, from.Dc(), 0, 0, dwRop);

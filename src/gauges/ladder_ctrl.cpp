@@ -15,10 +15,7 @@ constexpr ControlNames k_names{"__myPrssureSupportCtrl__", "__myPrssureSupportCt
 
 BOOL CPrssureSupportCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-BOOL CPrssureSupportCtrl::PreTranslateMessage(MSG* pMsg) {
-    TakeFocusOnClick(*this, pMsg);
-    return CWnd::PreTranslateMessage(pMsg);
-}
+BOOL CPrssureSupportCtrl::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
 
 void CPrssureSupportCtrl::OnPaint() {
     PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });

@@ -17,10 +17,7 @@ constexpr ControlNames k_names{"__myPositionBar__", "__myPositionBar__"};
 
 BOOL CPositionBar::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-BOOL CPositionBar::PreTranslateMessage(MSG* pMsg) {
-    TakeFocusOnClick(*this, pMsg);
-    return CWnd::PreTranslateMessage(pMsg);
-}
+BOOL CPositionBar::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
 
 void CPositionBar::OnPaint() {
     PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });

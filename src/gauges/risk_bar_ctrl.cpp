@@ -17,10 +17,7 @@ constexpr ControlNames k_names{"__TavlonRiskBar__", "__TavlonRiskBar__"};
 
 BOOL TavlonRiskBar::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-BOOL TavlonRiskBar::PreTranslateMessage(MSG* pMsg) {
-    TakeFocusOnClick(*this, pMsg);
-    return CWnd::PreTranslateMessage(pMsg);
-}
+BOOL TavlonRiskBar::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
 
 void TavlonRiskBar::OnPaint() {
     PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });

@@ -24,10 +24,7 @@ int TavlonOL::Create(CWnd* pParent, CRect rect, UINT nID) {
     return TRUE;
 }
 
-BOOL TavlonOL::PreTranslateMessage(MSG* pMsg) {
-    TakeFocusOnClick(*this, pMsg);
-    return CWnd::PreTranslateMessage(pMsg);
-}
+BOOL TavlonOL::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
 
 int TavlonOL::Init(tagStockItem& item) {
     m_stockItem = item;

@@ -8,13 +8,6 @@
 namespace {
 constexpr int k_nLabelGap = 3;  // below the axis, and between two labels
 
-std::string NumberText(double dValue, int nDecimals) {
-    if (!(dValue >= 1000000)) return FormatFixed(dValue, nDecimals);
-    char szText[64] = "";
-    FormatBigNumber(szText, 8, dValue);
-    return szText;
-}
-
 /// The cell of label i, which counts from the right end.
 CRect LabelCell(int i, int n, int x1, long long nWidth, int nTop, int nTextHeight) {
     const long long nCell = nWidth / n;
@@ -32,7 +25,7 @@ void DrawAxisNumberbottom(CDC* pDC, COLORREF clr, int n, int x1, int y1, int x2,
     const int nTextHeight = pDC->GetTextExtent("A", 1).cy;
     const int nOldMode = pDC->SetBkMode(TRANSPARENT);
     for (int i = drawFirst ? 0 : 1; i <= (drawLast ? n : n - 1); ++i) {
-        const std::string text = NumberText(i * (b - a) / n + a, decimals);
+        const std::string text = ScaleText(ScaleStep(a, b, i, n), decimals);
         CRect rcLabel = LabelCell(i, n, x1, nWidth, AfxCoordAdd(y1, k_nLabelGap), nTextHeight);
         pDC->DrawText(text.c_str(), static_cast<int>(text.size()), &rcLabel,
                       DT_CENTER | DT_SINGLELINE | DT_END_ELLIPSIS);

@@ -1,7 +1,6 @@
 #include "point_radar_ctrl.h"
 
 #include "../foundation/control_window.h"
-#include "../foundation/text_copy.h"
 
 BEGIN_MESSAGE_MAP(CPointRadarCtrl, CWnd)
 ON_WM_PAINT()
@@ -63,30 +62,20 @@ int CPointRadarCtrl::Play() {
 }
 
 void CPointRadarCtrl::ClearData() {
-    m_nActiveBlockId = -1;
-    m_arrData.RemoveAll();
-    m_index.Clear();
+    ClearPoints();
     m_bLayerStale = true;
     m_bUpdateTimeSet = false;
     Invalidate();
 }
 
 int CPointRadarCtrl::SetData(tagPointRadarItemData data) {
-    constexpr int k_nMaxPoints = 3000;
-    if (m_arrData.GetSize() >= k_nMaxPoints) return FALSE;
-    const int nHeld = m_index.Find(data.cMarket, data.szCode);
-    if (nHeld >= 0) {
-        m_arrData[nHeld] = data;
-    } else {
-        m_index.Add(data.cMarket, data.szCode, static_cast<int>(m_arrData.Add(data)));
-    }
+    if (!StorePoint(data)) return FALSE;
     MarkStale();
     return TRUE;
 }
 
 void CPointRadarCtrl::ActiveBlockByInfo(int id, const char* text) {
-    m_nActiveBlockId = id;
-    CopyText(m_szActiveBlock, text);
+    ActivateBlock(id, text);
     MarkStale();
     Invalidate();
 }

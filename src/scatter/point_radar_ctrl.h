@@ -1,15 +1,14 @@
 #pragma once
 
 #include <tavlon/framework.h>
+#include <tavlon/point_store.h>
 #include <tavlon/records.h>
 #include <tavlon/scatter_state.h>
-
-#include "core/stock_index.h"
 
 /// Point radar: keeps the points, gate corners, active block, look and shown range. The exported contract is
 /// CProxy_PointRadarCtrl. Paints its background only so far: no points, and only Escape reaches the shown
 /// range.
-class CPointRadarCtrl : public CWnd, private ScatterState {
+class CPointRadarCtrl : public CWnd, private ScatterState, private PointStore {
 public:
     CPointRadarCtrl();
     int Create(CWnd* pParent, CRect rect, UINT nID);
@@ -47,8 +46,4 @@ private:
     double m_dSouthGateX = 87.0;  ///< Lower right corner of the gate.
     double m_dSouthGateY = -2.0;
     COLORREF m_clrGateBack = RGB(157, 188, 252);
-    CArray<tagPointRadarItemData, tagPointRadarItemData&> m_arrData;  ///< One record a stock.
-    StockIndex m_index;                                               ///< Where in m_arrData a stock stands.
-    int m_nActiveBlockId = -1;                                        ///< -1: none.
-    char m_szActiveBlock[255] = "";
 };

@@ -1,11 +1,10 @@
 #include "star_chart_ctrl.h"
 
-#include "../foundation/control_window.h"
+#include "window_names.h"
 
 namespace {
-constexpr ControlNames k_names{"__myRosePointCtrl__", "__RosePointCtrl__"};
 constexpr UINT k_nStarKindMessage = WM_USER + 2;
-}  // namespace
+}
 
 BEGIN_MESSAGE_MAP(CPointStartCtrl, CWnd)
 ON_WM_PAINT()
@@ -15,10 +14,10 @@ ON_MESSAGE(k_nStarKindMessage, OnStarKind)
 END_MESSAGE_MAP()
 
 int CPointStartCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
-    return CreateControlWindow(*this, k_names, pParent, rect, nID);
+    return CreateControlWindow(*this, k_rosePointNames, pParent, rect, nID);
 }
 
-BOOL CPointStartCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
+BOOL CPointStartCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_rosePointNames, cs); }
 
 void CPointStartCtrl::OnPaint() {
     PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
@@ -61,7 +60,7 @@ void CPointStartCtrl::ClearData() {
 }
 
 int CPointStartCtrl::SetData(tagmyStarData data) {
-    constexpr int k_nFull = 3001;
+    constexpr int k_nFull = k_nMostStocks + 1;
     const bool bChecked = data.dwCheckB != 0 && data.fCheckC >= 0 && data.fCheckA >= 0;  // false for NaN
     if (m_arrData.GetSize() >= k_nFull || !bChecked) return FALSE;
     const int nHeld = m_index.Find(data.cMarket, data.szCode);

@@ -1,16 +1,7 @@
 // The value radar's life, data and settings.
 #include <tavlon/value_radar.h>
 
-#include "foundation/control_window.h"
-#include "foundation/text_copy.h"
-#include "points_layer.h"
-#include "scatter/core/stock_index.h"
-
-namespace {
-constexpr ControlNames k_names{"__myRosePointCtrl__", "__RosePointCtrl__"};
-constexpr int k_nMostPoints = 3000;
-constexpr int k_nBlockNameLength = 254;
-}  // namespace
+#include "window_names.h"
 
 BEGIN_MESSAGE_MAP(CRoePointCtrl, CWnd)
 ON_WM_ERASEBKGND()
@@ -19,15 +10,15 @@ ON_WM_SIZE()
 ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
-CRoePointCtrl::CRoePointCtrl() : m_strTitle("价值雷达"), m_pIndex(std::make_unique<StockIndex>()) {}
+CRoePointCtrl::CRoePointCtrl() : m_strTitle("价值雷达") {}
 
-CRoePointCtrl::~CRoePointCtrl() { DeletePointsLayer(*this); }
+CRoePointCtrl::~CRoePointCtrl() = default;
 
 int CRoePointCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
-    return CreateControlWindow(*this, k_names, pParent, rect, nID);
+    return CreateControlWindow(*this, k_rosePointNames, pParent, rect, nID);
 }
 
-BOOL CRoePointCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
+BOOL CRoePointCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_rosePointNames, cs); }
 
 int CRoePointCtrl::Init() {
     ClearData();
@@ -44,32 +35,19 @@ int CRoePointCtrl::Play() {
 }
 
 int CRoePointCtrl::SetData(tagPointRadarItemData item) {
-    if (m_arrData.GetSize() >= k_nMostPoints) return FALSE;
-    const int nHeld = FindStockWithItemData(item);
-    if (nHeld >= 0)
-        m_arrData[nHeld] = item;
-    else
-        m_pIndex->Add(item.cMarket, item.szCode, static_cast<int>(m_arrData.Add(item)));
+    if (!StorePoint(item)) return FALSE;
     m_bPointsDirty = m_bRangeDirty = m_bLayerStale = true;
     return TRUE;
 }
 
-int CRoePointCtrl::FindStockWithItemData(const tagPointRadarItemData& item) const {
-    return m_pIndex->Find(item.cMarket, item.szCode);
-}
-
 void CRoePointCtrl::ClearData() {
-    m_nActiveBlockId = -1;
-    m_arrData.RemoveAll();
-    m_arrShown.RemoveAll();
-    m_pIndex->Clear();
+    ClearPoints();
     m_bLayerStale = true;
     Invalidate();
 }
 
 void CRoePointCtrl::ActiveBlockByInfo(int nId, const char* pszName) {
-    m_nActiveBlockId = nId;
-    CopyText(m_szActiveBlock, CString(pszName, k_nBlockNameLength));
+    ActivateBlock(nId, pszName);
     m_bLayerStale = m_bPointsDirty = true;
     Invalidate();
 }

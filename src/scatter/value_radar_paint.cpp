@@ -1,8 +1,6 @@
 // The value radar's layers.
 #include <tavlon/value_radar.h>
 
-#include <cmath>
-
 #include "foundation/mem_dc.h"
 #include "foundation/toolkit.h"
 #include "point_sprites.h"
@@ -43,7 +41,7 @@ void CRoePointCtrl::DrawBorder(CDC* pDC) { DrawNoFillRect(pDC, m_rcClient, 1, m_
 void CRoePointCtrl::DrawIntersectLine(CDC* pDC) { PaintCrossHair(*pDC, *this); }
 
 void CRoePointCtrl::DrawGate(CDC* pDC) {
-    if (std::isnan(m_dGateX) || std::isnan(m_dGateY)) return;
+    if (!IsFinitePair(m_dGateX, m_dGateY)) return;
     CRect rcGate(GetScreenXPos(m_dGateX), GetScreenYPos(m_dGateY), GetScreenXPos(m_dFullMaxX),
                  GetScreenYPos(m_dFullMinY));
     CRect rcPlot = PlotRect(*this);
@@ -55,12 +53,9 @@ void CRoePointCtrl::DrawGate(CDC* pDC) {
 void CRoePointCtrl::DrawAllPoints(CDC* pDC) {
     CaclPointsInfo();
     OnDisplayPointSize(*this, *this);
-    if (m_bLayerStale) {
-        StartPointsLayer(*pDC, *this);
-        for (const tagPointRadarItemData& item : m_arrShown) DrawNormalPoint(&m_dcLayer, item);
-        m_bLayerStale = false;
-    }
-    CopyPointsLayer(*pDC, *this);
+    PaintThroughLayer(*pDC, *this, [this](CDC& dc) {
+        for (const tagPointRadarItemData& item : m_arrShown) DrawNormalPoint(&dc, item);
+    });
 }
 
 void CRoePointCtrl::DrawNormalPoint(CDC* pDC, const tagPointRadarItemData& item) {

@@ -23,10 +23,7 @@ int TavlonBR::Create(CWnd* pParent, CRect rect, UINT nID) {
 
 BOOL TavlonBR::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-BOOL TavlonBR::PreTranslateMessage(MSG* pMsg) {
-    TakeFocusOnClick(*this, pMsg);
-    return CWnd::PreTranslateMessage(pMsg);
-}
+BOOL TavlonBR::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
 
 void TavlonBR::OnPaint() {
     PaintOffScreen(*this, [](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, RGB(0, 0, 0)); });

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cmath>
 #include <limits>
 #include <string>
 #include <vector>
@@ -127,6 +128,49 @@ TEST(DrawAxisNumberLeft, PlaceAndState) {
     }
     EXPECT_EQ(OPAQUE, dc.GetBkMode());
     EXPECT_EQ(k_clrBlue, dc.GetTextColor());
+}
+
+TEST(ScaleStep, Values) {
+    constexpr double k_dMax = 0x1p1023;  // a power of two: halves and quarters are exact
+    struct Case {
+        const char* pszName;
+        double dFirst, dLast;
+        int nStep, nSteps;
+        double dWant;
+    };
+    for (const Case& c : {
+             Case{"first", 2, 12, 0, 5, 2},
+             Case{"between", 2, 12, 2, 5, 6},
+             Case{"last", 2, 12, 5, 5, 12},
+             Case{"falling", 1, -1, 1, 2, 0},
+             Case{"multiplied before it is divided", 0, 0.7, 3, 10, 3 * 0.7 / 10},
+             Case{"far ends: first", -1e308, 1e308, 0, 4, -1e308},
+             Case{"far ends: between", -1e308, 1e308, 1, 4, -5e307},
+             Case{"far ends: middle", -1e308, 1e308, 2, 4, 0},
+             Case{"far ends: last", -1e308, 1e308, 4, 4, 1e308},
+             Case{"the span fits, its multiple does not", 0, k_dMax, 2, 4, k_dMax / 2},
+             Case{"farthest ends, falling", k_dMax, -k_dMax, 3, 4, -k_dMax / 2},
+         }) {
+        EXPECT_EQ(c.dWant, ScaleStep(c.dFirst, c.dLast, c.nStep, c.nSteps)) << c.pszName;
+    }
+    EXPECT_TRUE(std::isnan(ScaleStep(std::numeric_limits<double>::quiet_NaN(), 1, 1, 2)));
+}
+
+TEST(ScaleText, Units) {
+    EXPECT_EQ("-5.00", ScaleText(-5, 2));
+    EXPECT_EQ("999999.9", ScaleText(999999.9, 1));
+    EXPECT_EQ("100.00万", ScaleText(1000000, 0));
+    EXPECT_EQ("", ScaleText(1e308, 0));
+    EXPECT_EQ("nan", ScaleText(std::numeric_limits<double>::quiet_NaN(), 0));
+}
+
+TEST(ScaleLabels, FarEndsGiveNumbers) {
+    RecordingDC dc;
+    DrawAxisNumberLeft(&dc, k_clrRed, 4, 50, 10, 90, 110, -1e308, 1e308, 1, 1, 0);
+    DrawValueScale(&dc, k_clrRed, 4, 30, 10, 80, 110, -1e308, 1e308, TRUE, TRUE, 0);
+    const std::string ends[] = {FormatFixed(-1e308, 0), FormatFixed(-5e307, 0), FormatFixed(5e307, 0),
+                                FormatFixed(1e308, 0)};
+    EXPECT_EQ((Texts{ends[0], ends[1], "0", ends[2], ends[3], ends[0], ends[1], "0", "", ""}), dc.Texts());
 }
 
 TEST(ScaleLabels, ExtremeCoordinatesAreHarmless) {

@@ -58,6 +58,16 @@ TEST(DrawTransparentBitmap, KeepsThePictureAndLetsItGo) {
     });
 }
 
+TEST(DrawTransparentBitmap, APictureInUseDrawsNothing) {
+    Canvas canvas(6, 6, RGB(10, 20, 30));
+    Picture picture;
+    picture.WithPixels([&](CDC& dc) {
+        DrawTransparentBitmap(canvas.dc, 1, 1, picture.bitmap, k_clrWhite);
+        EXPECT_EQ(k_clrRed, dc.GetPixel(1, 1)) << "the picture is as it was";
+    });
+    EXPECT_EQ(36, canvas.Count(RGB(10, 20, 30)));
+}
+
 TEST(DrawTransparentBitmap, BadHandlesDrawNothing) {
     Canvas canvas(6, 6);
     Picture picture;

@@ -7,6 +7,7 @@ namespace {
 const LPCSTR pszDisc = MAKEINTRESOURCE(3000);  // a bitmap that the control library carries
 
 TEST(FrameworkModule, ResourcesAreFoundAlongTheChain) {
+    AfxSetResourceHandle(AfxGetInstanceHandle());  // a control painted before may have made it the library's
     const HINSTANCE hLibrary = AfxFindResourceHandle(pszDisc, RT_BITMAP);
     ASSERT_NE(AfxGetResourceHandle(), hLibrary);  // not the program's own
     CBitmap bitmap;

@@ -57,6 +57,15 @@ TEST(ValueRange, IsNeverEmpty) {
     }
 }
 
+TEST(ValueRange, FinitePairs) {
+    EXPECT_TRUE(IsFinitePair(0, -0.0));
+    EXPECT_TRUE(IsFinitePair(k_dMost, -k_dMost));
+    for (const double d : {k_dNaN, k_dInfinity, -k_dInfinity}) {
+        EXPECT_FALSE(IsFinitePair(d, 1)) << d;
+        EXPECT_FALSE(IsFinitePair(1, d)) << d;
+    }
+}
+
 TEST(ValueRange, ContainsItsEnds) {
     const ValueRange range{-1, 2};
     EXPECT_TRUE(range.Contains(-1));

@@ -1,6 +1,7 @@
 // The value radar's picture: texts, lines, and that repainting a part gives what repainting all gives.
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 #include <string>
 
@@ -89,6 +90,16 @@ TEST(ValueRadarPaint, AxisNumbers) {
         ExpectTexts(shot, board, k_rcXNumbers);
         ExpectTexts(shot, board, k_rcYNumbers);
     }
+}
+
+TEST(ValueRadarPaint, AxisNumbersOfTheWidestRange) {
+    const double dMost = std::numeric_limits<double>::max();
+    RadarWindow window;
+    window.Feed({Point("a", -dMost, 0), Point("b", dMost, 8)});
+    TextBoard board(800, 600);
+    // Too big for the big units: no text on the right half.
+    PutXNumbers(board, {"", "", "", "", "0.00", "", "", "", ""});
+    ExpectTexts(window.Take(), board, CRect(425 - 30, 571, 798, 598));
 }
 
 TEST(ValueRadarPaint, WithoutDataTheFirstRangeShows) {

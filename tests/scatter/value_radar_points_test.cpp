@@ -202,9 +202,25 @@ TEST(ValueRadarGate, WaitsForTheNextLayer) {
     EXPECT_EQ(RGB(1, 2, 3), window.Take().At(pt.x, pt.y));
 }
 
-TEST(ValueRadarGate, NotANumberIsNoGate) {
-    RadarWindow plain, odd;
-    for (RadarWindow* pWindow : {&plain, &odd}) pWindow->Feed({k_low, k_high});
-    odd.radar.SetGate(k_dNaN, 0);
-    EXPECT_EQ(plain.Take(), odd.Take());
+TEST(ValueRadarGate, NotFiniteIsNoGate) {
+    RadarWindow plain;
+    plain.Feed({k_low, k_high});
+    const Shot none = plain.Take();
+    struct Case {
+        const char* pszName;
+        double dX, dY;
+    };
+    for (const Case& c :
+         {Case{"not-a-number x", k_dNaN, 0}, Case{"not-a-number y", 40, k_dNaN},
+          Case{"everything", -k_dInfinity, k_dInfinity}, Case{"infinite x", -k_dInfinity, 0},
+          Case{"infinite y", 40, k_dInfinity}, Case{"the far corner", k_dInfinity, -k_dInfinity}}) {
+        RadarWindow odd;
+        odd.Feed({k_low, k_high});
+        odd.radar.SetGate(c.dX, c.dY);
+        EXPECT_EQ(none, odd.Take()) << c.pszName;
+    }
+    RadarWindow huge;
+    huge.Feed({k_low, k_high});
+    huge.radar.SetGate(-1e300, 1e300);
+    EXPECT_EQ(k_clrGate, huge.Take().At(k_rcPlot.left + 20, k_rcPlot.top + 20)) << "far but finite";
 }

@@ -241,16 +241,16 @@ using Radars = testing::Types<CProxy_RoePointCtrl, CProxy_PointRadarCtrl>;
 TYPED_TEST_SUITE(RadarData, Radars);
 
 TYPED_TEST(RadarData, HoldsThreeThousandStocks) {
-    const auto Point = [](int nCode) {
+    const auto Point = [](unsigned nCode) {
         tagPointRadarItemData data{};
-        std::snprintf(data.szCode, sizeof data.szCode, "%06d", nCode / 2);
+        std::snprintf(data.szCode, sizeof data.szCode, "%06u", nCode / 2 % 1000000u);
         data.cMarket = static_cast<char>(nCode % 2);
         data.dX = k_dNaN;  // any values are taken
         data.dY = k_dInfinity;
         return data;
     };
     TypeParam radar;
-    for (int i = 0; i < 3000; ++i) ASSERT_EQ(TRUE, radar.SetData(Point(i))) << i;
+    for (unsigned i = 0; i < 3000; ++i) ASSERT_EQ(TRUE, radar.SetData(Point(i))) << i;
     EXPECT_EQ(FALSE, radar.SetData(Point(3000)));
     EXPECT_EQ(FALSE, radar.SetData(Point(5))) << "a held one as well";
     EXPECT_EQ(TRUE, radar.Init());

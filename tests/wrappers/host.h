@@ -2,7 +2,9 @@
 
 #include <tavlon/tavlon.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 
 /// A visible top-level window to put controls into, and the message loop of a host.
 class HostWindow : public CWnd {
@@ -21,6 +23,31 @@ public:
             ::DispatchMessage(&msg);
         }
     }
+};
+
+/// A host that acts when it is next told of something.
+class ListeningHost : public HostWindow {
+public:
+    void OnFocusLost(std::function<void()> action) { On(WM_KILLFOCUS, -1, std::move(action)); }
+    void OnChildDestroyed(std::function<void()> action) {
+        On(WM_PARENTNOTIFY, WM_DESTROY, std::move(action));
+    }
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        const bool bHeard = nMessage == m_nMessage && (m_nEvent < 0 || LOWORD(wParam) == m_nEvent);
+        if (m_action && bHeard) std::exchange(m_action, nullptr)();
+        return HostWindow::WindowProc(nMessage, wParam, lParam);
+    }
+
+private:
+    void On(UINT nMessage, int nEvent, std::function<void()> action) {
+        m_nMessage = nMessage, m_nEvent = nEvent, m_action = std::move(action);
+    }
+
+    UINT m_nMessage = 0;
+    int m_nEvent = -1;  ///< Low word of wParam; negative: any.
+    std::function<void()> m_action;
 };
 
 inline const CRect k_rcControl(10, 20, 210, 120);

@@ -193,6 +193,68 @@ TYPED_TEST(Wrapper, OtherMessagesLeaveTheFocusAlone) {
     EXPECT_EQ(this->m_host.m_hWnd, ::GetFocus()) << "addressed to another window";
 }
 
+TYPED_TEST(Wrapper, TheFocusChangeMayDestroyTheControl) {
+    ListeningHost host;
+    ASSERT_TRUE(CreateIn(*this->m_proxy, &host));
+    const HWND hWnd = ControlIn(host);
+    ::SetFocus(host);
+    MSG msg{};
+    msg.hwnd = hWnd, msg.message = WM_LBUTTONDOWN;
+    host.OnFocusLost([this] { this->m_proxy.reset(); });
+    EXPECT_FALSE(CWnd::FromHandlePermanent(hWnd)->PreTranslateMessage(&msg));
+    EXPECT_EQ(!FactsOf<TypeParam>().bTakesFocus, ::IsWindow(hWnd) != FALSE);
+}
+
+TYPED_TEST(Wrapper, IsWithoutControlWhileItIsDestroyed) {
+    ListeningHost host;
+    auto* pProxy = new TypeParam;
+    ASSERT_TRUE(CreateIn(*pProxy, &host));
+    const HWND hWnd = ControlIn(host);
+    bool bHeard = false;
+    std::optional<TypeParam> copy;
+    host.OnChildDestroyed([&] {
+        bHeard = true;
+        copy.emplace(*pProxy);
+        EXPECT_FALSE(CreateIn(*pProxy, &host));
+    });
+    delete pProxy;
+    EXPECT_TRUE(bHeard);
+    EXPECT_FALSE(::IsWindow(hWnd));
+    EXPECT_FALSE(CreateIn(*copy, &host)) << "the copy has no control either";
+}
+
+TEST(WrapperAnswers, WhileTheControlIsDestroyed) {
+    ListeningHost host;
+    auto* pWheel = new CProxy_BR;
+    auto* pTabs = new CProxy_TabCtrl;
+    pTabs->AddItem(tagTabItemData{5, "a"});
+    pTabs->SelectTabById(5);
+    ASSERT_TRUE(CreateIn(*pWheel, &host) && CreateIn(*pTabs, &host));
+    int nPlay = 99, nActive = 99, nAdded = 99;
+    host.OnChildDestroyed([&] { nPlay = pWheel->Play(); });
+    delete pWheel;
+    host.OnChildDestroyed([&] {
+        nActive = pTabs->GetActiveId();
+        nAdded = pTabs->AddItem(tagTabItemData{6, "b"});
+    });
+    delete pTabs;
+    EXPECT_EQ(0, nPlay);
+    EXPECT_EQ(-1, nActive);
+    EXPECT_EQ(-1, nAdded);
+}
+
+TEST(WrapperAnswers, AnAssignedWrapperSpeaksForItsNewControl) {
+    ListeningHost host;
+    CProxy_TabCtrl tabs, next;
+    next.AddItem(tagTabItemData{7, "a"});
+    next.SelectTabById(7);
+    ASSERT_TRUE(CreateIn(tabs, &host));
+    int nActive = 99;
+    host.OnChildDestroyed([&] { nActive = tabs.GetActiveId(); });
+    tabs = next;
+    EXPECT_EQ(7, nActive);
+}
+
 TEST(WrapperClasses, ValueRadarAndStarChartShareOneClass) {
     HostWindow host;
     CProxy_RoePointCtrl valueRadar, secondRadar;

@@ -42,8 +42,10 @@ HINSTANCE AfxGetResourceHandle() { return Chain().state.m_hCurrentResourceHandle
 void AfxSetResourceHandle(HINSTANCE hInstResource) { Chain().state.m_hCurrentResourceHandle = hInstResource; }
 
 HINSTANCE AfxFindResourceHandle(LPCSTR pszName, LPCSTR pszType) {
-    const HINSTANCE hCurrent = AfxGetResourceHandle();
+    const HINSTANCE hCurrent = AfxGetResourceHandle(), hProgram = AfxGetInstanceHandle();
     if (!pszName || !pszType || HasResource(hCurrent, pszName, pszType)) return hCurrent;
+    // A library may have made its own module the current one: the program still comes before the libraries.
+    if (HasResource(hProgram, pszName, pszType)) return hProgram;
     const std::lock_guard guard(Chain().lock);
     const auto& links = Chain().links;
     const auto it = std::find_if(links.rbegin(), links.rend(), [=](const CDynLinkLibrary* p) {

@@ -5,11 +5,7 @@
 
 #include "foundation/text_copy.h"
 
-namespace {
-constexpr std::size_t k_nUsualStocks = 3000;
-}
-
-StockIndex::StockIndex() { m_positions.reserve(k_nUsualStocks); }
+StockIndex::StockIndex() { m_positions.reserve(k_nMostStocks); }
 
 std::size_t StockIndex::KeyHash::operator()(const Key& key) const {
     return std::hash<std::string_view>{}({key.data(), key.size()});

@@ -5,6 +5,9 @@
 #include <cstddef>
 #include <unordered_map>
 
+/// Stocks that a radar takes; the star chart takes one more.
+inline constexpr int k_nMostStocks = 3000;
+
 /// Finds list positions by market byte and code. Codes are compared as texts that end at a zero or with their
 /// field.
 class StockIndex {

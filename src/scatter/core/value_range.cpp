@@ -13,6 +13,8 @@ void Stretch(ValueRange& range, double dValue) {
 }
 }  // namespace
 
+bool IsFinitePair(double dX, double dY) { return std::isfinite(dX) && std::isfinite(dY); }
+
 ValueRange WidenedRange(ValueRange range) {
     const double dMissing = k_dLeastSpan - (range.dMax - range.dMin);
     if (!(dMissing > 0)) return range;
@@ -24,7 +26,7 @@ ValueRange WidenedRange(ValueRange range) {
 }
 
 void PairExtent::Include(double dX, double dY) {
-    if (!std::isfinite(dX) || !std::isfinite(dY)) return;
+    if (!IsFinitePair(dX, dY)) return;
     if (m_bEmpty) m_x = {dX, dX}, m_y = {dY, dY};
     m_bEmpty = false;
     Stretch(m_x, dX);

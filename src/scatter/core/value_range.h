@@ -5,10 +5,12 @@ struct ValueRange {
     double dMin;
     double dMax;
 
-    bool Contains(double dValue) const {
-        return dMin <= dValue && dValue <= dMax;
-    }  ///< Both ends; never NaN.
+    /// Both ends are inside; NaN never is.
+    bool Contains(double dValue) const { return dMin <= dValue && dValue <= dMax; }
 };
+
+/// Whether a value pair counts at all: one that is not finite is neither drawn nor part of a range.
+bool IsFinitePair(double dX, double dY);
 
 /// The range with both ends moved outwards alike until they are at least 5.0 apart, or, where doubles are too
 /// coarse for that, at least different.

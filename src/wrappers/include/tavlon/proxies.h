@@ -10,11 +10,14 @@
 /// the control id nID; FALSE without a parent, when the window cannot be made, or when the control already
 /// has one (which then stays as it is).
 ///
-/// Without a control (no memory when it was made) a method that returns int returns 0, AddItem and
-/// GetActiveId return -1, and a void method does nothing. A refused call changes nothing. "Repaints" means
-/// that the whole client area is invalidated; "stores" means that the value shows at the next paint that
-/// something else causes. Colours are 0x00BBGGRR. Texts are code page 936 bytes; a null char pointer is an
-/// empty text.
+/// Without a control (no memory when it was made, or while the wrapper is being destroyed and the control
+/// goes with it) a method that returns int returns 0, AddItem and GetActiveId return -1, and a void method
+/// does nothing. A refused call changes nothing. "Repaints" means that the whole client area is invalidated;
+/// "stores" means that the value shows at the next paint that something else causes. Colours are 0x00BBGGRR.
+/// Texts are code page 936 bytes; a null char pointer is an empty text.
+///
+/// Complete so far: the value radar. The other controls keep their data and draw their background only: they
+/// send no message, show no tip and raise no exception yet.
 /// Thread: use from the thread that created the window.
 
 #include <tavlon/proxy_gauges.h>

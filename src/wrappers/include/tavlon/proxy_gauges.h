@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class CPositionBar;
 class CPrssureSupportCtrl;
@@ -33,7 +32,7 @@ public:
     void SetBorderColor(COLORREF clr, int nSide);  ///< Side 0 top, 1 bottom, 2 left, 3 right; else ignored.
 
 private:
-    std::shared_ptr<TavlonRiskBar> m_pControl;
+    Owned<TavlonRiskBar> m_pControl;
 };
 
 /// Position bar: how much of their capital three investor camps hold. Setters store; call ReDraw after a
@@ -59,7 +58,7 @@ public:
     void SetBorderColor(COLORREF clr, int nSide);  ///< Side 0 top, 1 bottom, 2 left, 3 right; else ignored.
 
 private:
-    std::shared_ptr<CPositionBar> m_pControl;
+    Owned<CPositionBar> m_pControl;
 };
 
 /// Pressure and support ladder: five price levels of one stock, 1 medium-term pressure, 2 short-term
@@ -86,7 +85,7 @@ public:
     void SerSeparLineColor(COLORREF clr);          ///< Stores the colour of the separator lines.
 
 private:
-    std::shared_ptr<CPrssureSupportCtrl> m_pControl;
+    Owned<CPrssureSupportCtrl> m_pControl;
 };
 
 /// Histogram of up to 20 bars.
@@ -116,5 +115,5 @@ public:
     void SetXTitle(char* text);                       ///< Keeps at most 99 bytes; repaints.
 
 private:
-    std::shared_ptr<myHistogramCtrl> m_pControl;
+    Owned<myHistogramCtrl> m_pControl;
 };

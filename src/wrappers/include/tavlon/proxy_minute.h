@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class TavlonOL;
 
@@ -26,5 +25,5 @@ public:
     int Stop();  ///< TRUE; nothing else.
 
 private:
-    std::shared_ptr<TavlonOL> m_pControl;
+    Owned<TavlonOL> m_pControl;
 };

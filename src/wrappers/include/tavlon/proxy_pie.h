@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class CPieChartCtrl;
 class CPriceRadarCtrl;
@@ -50,7 +49,7 @@ public:
         char* text);  ///< Keeps at most 254 bytes; label of the outflow total; repaints.
 
 private:
-    std::shared_ptr<CPieChartCtrl> m_pControl;
+    Owned<CPieChartCtrl> m_pControl;
 };
 
 /// Price radar: up to eight dated columns of paired pies.
@@ -81,5 +80,5 @@ public:
     void SetSelectId(int id);                 ///< Selects an item; repaints. A negative id is ignored.
 
 private:
-    std::shared_ptr<CPriceRadarCtrl> m_pControl;
+    Owned<CPriceRadarCtrl> m_pControl;
 };

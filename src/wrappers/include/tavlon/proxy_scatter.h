@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class CPointRadarCtrl;
 class CPointStartCtrl;
@@ -39,7 +38,7 @@ public:
     void SetCoordinateShaftLineColor(COLORREF clr);  ///< Axis lines; repaints.
 
 private:
-    std::shared_ptr<CRoePointCtrl> m_pControl;
+    Owned<CRoePointCtrl> m_pControl;
 };
 
 /// Point radar: limit-up coefficient (x, 0 to 100) against the day's price change in percent (y, -10 to 10).
@@ -70,7 +69,7 @@ public:
     void SetUpdateTime(CTime& time);          ///< Stores and shows the time; repaints.
 
 private:
-    std::shared_ptr<CPointRadarCtrl> m_pControl;
+    Owned<CPointRadarCtrl> m_pControl;
 };
 
 /// Star chart: energy (x) against net buying (y) at the day's close. Message WM_USER + 2 with wParam 12 or 14
@@ -98,5 +97,5 @@ public:
     void SetTitle(CString& title);                   ///< Stores.
 
 private:
-    std::shared_ptr<CPointStartCtrl> m_pControl;
+    Owned<CPointStartCtrl> m_pControl;
 };

@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class CMyTabControl;
 
@@ -32,5 +31,5 @@ public:
     void SetFontBold(bool bBold);              ///< Caption weight; repaints.
 
 private:
-    std::shared_ptr<CMyTabControl> m_pControl;
+    Owned<CMyTabControl> m_pControl;
 };

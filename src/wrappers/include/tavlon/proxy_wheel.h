@@ -2,9 +2,8 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/owned.h>
 #include <tavlon/records.h>
-
-#include <memory>
 
 class TavlonBR;
 
@@ -35,5 +34,5 @@ public:
     int SetData(int index, tagmyBRData& data);
 
 private:
-    std::shared_ptr<TavlonBR> m_pControl;
+    Owned<TavlonBR> m_pControl;
 };

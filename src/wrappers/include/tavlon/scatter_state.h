@@ -43,8 +43,10 @@ struct ScatterState : ScatterLayout {
     bool m_bGridVisible = true;
     char m_szStockInfo[500] = "";  ///< Info line: the stock under the mouse.
     bool m_bLayerStale = false;    ///< The points layer must be rebuilt.
-    CDC m_dcLayer;                 ///< Points layer: the picture below the axes, points included.
-    CBitmap m_bmpLayer;            ///< As large as the client area was when it was built.
-    CSize m_szLayer{0, 0};         ///< Size of m_bmpLayer.
+    // Every bitmap stands before the context that holds it, so that the context goes first: a bitmap cannot
+    // be deleted while it is selected.
+    CBitmap m_bmpLayer;     ///< As large as the client area was when it was built.
+    CDC m_dcLayer;          ///< Points layer: the picture below the axes, points included.
+    CSize m_szLayer{0, 0};  ///< Size of m_bmpLayer.
     bool m_bUpdateTimeSet = false;
 };

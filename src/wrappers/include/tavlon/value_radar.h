@@ -2,12 +2,9 @@
 
 #include <tavlon/export.h>
 #include <tavlon/framework.h>
+#include <tavlon/point_store.h>
 #include <tavlon/records.h>
 #include <tavlon/scatter_state.h>
-
-#include <memory>
-
-class StockIndex;
 
 /// Value radar: each stock a point at its quarterly revenue growth (x) and price-to-sales ratio (y).
 /// Units:  records and gate are in the caller's values, everything on the screen in client pixels, y
@@ -17,11 +14,11 @@ class StockIndex;
 ///         A client area of 40 px height or less is not painted.
 /// Range:  computed from the finite records at the first paint after SetData, or by Play: their extremes, at
 ///         least 5.0 apart. Records that are not finite are kept but neither drawn nor counted.
-/// Gate:   the area right of and below one corner, empty until SetGate. Each computation of the range empties
-///         it again, so call SetGate after Play.
+/// Gate:   the area right of and below one corner, empty until SetGate and while the corner is not finite.
+///         Each computation of the range empties it again, so call SetGate after Play.
 /// Usage:  Init, SetData for each stock, ActiveBlockByInfo, Play, SetGate, SetUpdateTime.
 /// Thread: use from the thread that created the window.
-class TAVLON_API CRoePointCtrl : public CWnd, private ScatterState {
+class TAVLON_API CRoePointCtrl : public CWnd, private ScatterState, private PointStore {
 public:
     CRoePointCtrl();
     virtual ~CRoePointCtrl();
@@ -47,7 +44,7 @@ public:
     void SetCoordinateShaftFontSize(int nHeight);    ///< Axis number height in pixels, default 12.
     void SetCoordinateShaftLineColor(COLORREF clr);  ///< Axis lines and the line under the info strip.
     void SetFontColor(COLORREF clr);                 ///< Axis titles, title, update time and info text.
-    void SetGate(double dX, double dY);              ///< Gate corner; NaN leaves no gate.
+    void SetGate(double dX, double dY);              ///< Gate corner; none when not finite.
     void SetGateBkColor(COLORREF clr);
     void SetGirdVisble(bool bVisible);
     void SetTitle(CString& strTitle);  ///< Chart title, default "价值雷达". Does not repaint.
@@ -74,7 +71,6 @@ private:
 
     // Points.
     void CaclPointsInfo();
-    int FindStockWithItemData(const tagPointRadarItemData& item) const;
     void SetStockInfo(const char* pszText);
     void OnCheckPoint(const CPoint& point);
     void SetDisplayBigPoint(bool bBig);
@@ -102,9 +98,4 @@ private:
     bool m_bRangeDirty = false;                  ///< The full range must be computed from the data.
     COLORREF m_clrBlockText = RGB(192, 192, 0);  ///< The active-block line.
     CString m_strTitle;
-    CArray<tagPointRadarItemData, tagPointRadarItemData&> m_arrData;   ///< One record a key, at most 3000.
-    CArray<tagPointRadarItemData, tagPointRadarItemData&> m_arrShown;  ///< Those in range, in drawing order.
-    std::unique_ptr<StockIndex> m_pIndex;                              ///< Where in m_arrData a key stands.
-    int m_nActiveBlockId = -1;                                         ///< -1: none.
-    char m_szActiveBlock[256] = "";
 };

@@ -35,8 +35,8 @@ TAVLON_FRAMEWORK_API HINSTANCE AfxGetInstanceHandle();
 TAVLON_FRAMEWORK_API HINSTANCE AfxGetResourceHandle();
 TAVLON_FRAMEWORK_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 
-/// The module that has the resource: the current resource module first, then the chain, newest link first.
-/// The current resource module when none has it.
+/// The module that has the resource: the current resource module first, then the program, then the chain,
+/// newest link first. The current resource module when none has it.
 TAVLON_FRAMEWORK_API HINSTANCE AfxFindResourceHandle(LPCSTR pszName, LPCSTR pszType);
 
 TAVLON_FRAMEWORK_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
