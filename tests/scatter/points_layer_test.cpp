@@ -56,10 +56,22 @@ TEST_F(PointsLayer, WithoutOneTheSurfaceTakesThePoints) {
     EXPECT_TRUE(IsLayerCurrent(m_state));
 }
 
-TEST_F(PointsLayer, NothingComesFromNoSurface) {
-    CDC dcNone;
-    EXPECT_FALSE(StartPointsLayer(dcNone, m_state));
-    EXPECT_EQ(nullptr, m_state.m_dcLayer.GetSafeHdc());
-    EXPECT_EQ(nullptr, m_state.m_bmpLayer.GetSafeHandle());
-    EXPECT_EQ(CSize(0, 0), m_state.m_szLayer);
+TEST_F(PointsLayer, WhatCannotBeMadeLeavesNothing) {
+    struct Case {
+        const char* pszName;
+        HDC hDC, hAttribDC;
+    };
+    CDC& dc = m_canvas.dc;
+    const HDC hdc = dc.m_hDC;
+    for (const Case& c : {Case{"no surface", nullptr, nullptr}, Case{"no size", hdc, nullptr},
+                          Case{"a context but no bitmap", nullptr, hdc}}) {
+        SCOPED_TRACE(c.pszName);
+        dc.m_hDC = c.hDC, dc.m_hAttribDC = c.hAttribDC;
+        EXPECT_FALSE(StartPointsLayer(dc, m_state));
+        EXPECT_EQ(nullptr, m_state.m_dcLayer.GetSafeHdc());
+        EXPECT_EQ(nullptr, m_state.m_bmpLayer.GetSafeHandle());
+        EXPECT_EQ(CSize(0, 0), m_state.m_szLayer);
+    }
+    dc.m_hDC = dc.m_hAttribDC = hdc;
+    EXPECT_TRUE(StartPointsLayer(dc, m_state));
 }

@@ -14,6 +14,17 @@ auto Random(Result (T::*method)(Args...)) {
     };
 }
 
+/// One that makes its own arguments.
+template <class T>
+auto Random(void (*call)(T&, Dice&)) {
+    return call;
+}
+
+template <class T, class... Callable>
+Methods<T> RandomCalls(Callable... callable) {
+    return {Random(callable)...};
+}
+
 void InitWheel(CProxy_BR& wheel, Dice& dice) {
     CArray<tagmyBRData, tagmyBRData&> sectors;
     for (int n = dice.Between(0, 64); n > 0; --n) {
@@ -25,209 +36,108 @@ void InitWheel(CProxy_BR& wheel, Dice& dice) {
 
 const Methods<CProxy_BR>& MethodsOf(CProxy_BR*) {
     using T = CProxy_BR;
-    static const Methods<T> methods{
-        InitWheel,
-        Random(&T::Play),
-        Random(&T::Stop),
-        Random(&T::ReDraw),
-        Random(&T::SetUpdateTime),
-        Random(&T::SetTitle),
-        Random(&T::GetBlocksInfo),
-        Random(&T::GetCurBlockData),
-        Random(static_cast<int (T::*)(tagmyBRData&)>(&T::SetData)),
-        Random(static_cast<int (T::*)(int, tagmyBRData&)>(&T::SetData)),
-        Random(&T::Create),
-    };
+    static const Methods<T> methods = RandomCalls<T>(
+        InitWheel, &T::Play, &T::Stop, &T::ReDraw, &T::SetUpdateTime, &T::SetTitle, &T::GetBlocksInfo,
+        &T::GetCurBlockData, static_cast<int (T::*)(tagmyBRData&)>(&T::SetData),
+        static_cast<int (T::*)(int, tagmyBRData&)>(&T::SetData), &T::Create);
     return methods;
 }
 
 const Methods<CProxy_ChartOL>& MethodsOf(CProxy_ChartOL*) {
     using T = CProxy_ChartOL;
-    static const Methods<T> methods{Random(&T::Init), Random(&T::SetData), Random(&T::SetJueShaData),
-                                    Random(&T::Play), Random(&T::Stop),    Random(&T::Create)};
+    static const Methods<T> methods =
+        RandomCalls<T>(&T::Init, &T::SetData, &T::SetJueShaData, &T::Play, &T::Stop, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_HistogramCtrl>& MethodsOf(CProxy_HistogramCtrl*) {
     using T = CProxy_HistogramCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::SetData),
-                                    Random(&T::Play),
-                                    Random(&T::SetIndex),
-                                    Random(&T::SetCoordinateShaftColor),
-                                    Random(&T::SetGirdColor),
-                                    Random(&T::SetBackColor),
-                                    Random(&T::SetCoordinateShaftFontColor),
-                                    Random(&T::SetCoordinateShaftTitleColor),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::DisplayGird),
-                                    Random(&T::SetYTitle),
-                                    Random(&T::SetXTitle),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Init, &T::SetData, &T::Play, &T::SetIndex, &T::SetCoordinateShaftColor, &T::SetGirdColor,
+        &T::SetBackColor, &T::SetCoordinateShaftFontColor, &T::SetCoordinateShaftTitleColor,
+        &T::SetBorderColor, &T::DisplayGird, &T::SetYTitle, &T::SetXTitle, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PieChartCtrl>& MethodsOf(CProxy_PieChartCtrl*) {
     using T = CProxy_PieChartCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::SetData),
-                                    Random(&T::Play),
-                                    Random(&T::SelectPieById),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::SetCircleBorderColor),
-                                    Random(&T::SetCircleBackgroundColor),
-                                    Random(&T::SetBackColor),
-                                    Random(&T::SetPieBorderColor),
-                                    Random(&T::SetSumTipTitleColor),
-                                    Random(&T::SetSumTipContxtColor),
-                                    Random(&T::SetActivePieBackColor),
-                                    Random(&T::SetSeparateLineColor),
-                                    Random(&T::SetInfoTipWidth),
-                                    Random(&T::SetInfoTipHeight),
-                                    Random(&T::SetInfoTipTitleBackColor),
-                                    Random(&T::SetInfoTipTitleFontColor),
-                                    Random(&T::SetInfoTipContextBackColor),
-                                    Random(&T::SetInfoTipContextFontColor),
-                                    Random(&T::SetSumTipTitleTopText),
-                                    Random(&T::SetSumTipTitleBottomText),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Init, &T::SetData, &T::Play, &T::SelectPieById, &T::SetBorderColor, &T::SetCircleBorderColor,
+        &T::SetCircleBackgroundColor, &T::SetBackColor, &T::SetPieBorderColor, &T::SetSumTipTitleColor,
+        &T::SetSumTipContxtColor, &T::SetActivePieBackColor, &T::SetSeparateLineColor, &T::SetInfoTipWidth,
+        &T::SetInfoTipHeight, &T::SetInfoTipTitleBackColor, &T::SetInfoTipTitleFontColor,
+        &T::SetInfoTipContextBackColor, &T::SetInfoTipContextFontColor, &T::SetSumTipTitleTopText,
+        &T::SetSumTipTitleBottomText, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PointRadarCtrl>& MethodsOf(CProxy_PointRadarCtrl*) {
     using T = CProxy_PointRadarCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::Play),
-                                    Random(&T::ActiveBlockByInfo),
-                                    Random(&T::ClearData),
-                                    Random(&T::SetData),
-                                    Random(&T::SetGirdVisble),
-                                    Random(&T::SetCoordinateShaftFontSize),
-                                    Random(&T::SetGateBkColor),
-                                    Random(&T::SetCoordinateShaftLineColor),
-                                    Random(&T::SetFontColor),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::SetSouthGate),
-                                    Random(&T::SetWestGate),
-                                    Random(&T::SetUpdateTime),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Init, &T::Play, &T::ActiveBlockByInfo, &T::ClearData, &T::SetData, &T::SetGirdVisble,
+        &T::SetCoordinateShaftFontSize, &T::SetGateBkColor, &T::SetCoordinateShaftLineColor, &T::SetFontColor,
+        &T::SetBorderColor, &T::SetSouthGate, &T::SetWestGate, &T::SetUpdateTime, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PointStartCtrl>& MethodsOf(CProxy_PointStartCtrl*) {
     using T = CProxy_PointStartCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::Play),
-                                    Random(&T::ClearData),
-                                    Random(&T::SetData),
-                                    Random(&T::SetCoordinateShaftFontSize),
-                                    Random(&T::SetCoordinateShaftLineColor),
-                                    Random(&T::SetFontColor),
-                                    Random(&T::SetGirdVisble),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::SetUpdateTime),
-                                    Random(&T::SetTitle),
-                                    Random(&T::Create)};
+    static const Methods<T> methods =
+        RandomCalls<T>(&T::Init, &T::Play, &T::ClearData, &T::SetData, &T::SetCoordinateShaftFontSize,
+                       &T::SetCoordinateShaftLineColor, &T::SetFontColor, &T::SetGirdVisble,
+                       &T::SetBorderColor, &T::SetUpdateTime, &T::SetTitle, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PositionBarCtrl>& MethodsOf(CProxy_PositionBarCtrl*) {
     using T = CProxy_PositionBarCtrl;
-    static const Methods<T> methods{Random(&T::Play),
-                                    Random(&T::Stop),
-                                    Random(&T::ReDraw),
-                                    Random(&T::SetData),
-                                    Random(&T::SetTitle),
-                                    Random(&T::SetColor),
-                                    Random(&T::SetTitleTextColor),
-                                    Random(&T::SetCylinderColor),
-                                    Random(&T::SetCoordinateColor),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetColor, &T::SetTitleTextColor,
+        &T::SetCylinderColor, &T::SetCoordinateColor, &T::SetBorderColor, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PriceRadarCtrl>& MethodsOf(CProxy_PriceRadarCtrl*) {
     using T = CProxy_PriceRadarCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::SetData),
-                                    Random(&T::Play),
-                                    Random(&T::SetTitleText),
-                                    Random(&T::SetTitleFontColor),
-                                    Random(&T::SetBackColor),
-                                    Random(&T::SetTitleBackColor),
-                                    Random(&T::SetLeftBorderColor),
-                                    Random(&T::SetRightBorderColor),
-                                    Random(&T::SetTopBorderColor),
-                                    Random(&T::SetBottomBorderColor),
-                                    Random(&T::SetTitleFontSize),
-                                    Random(&T::SetTitleHeight),
-                                    Random(&T::SetLabelHeight),
-                                    Random(&T::SetSelectId),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Init, &T::SetData, &T::Play, &T::SetTitleText, &T::SetTitleFontColor, &T::SetBackColor,
+        &T::SetTitleBackColor, &T::SetLeftBorderColor, &T::SetRightBorderColor, &T::SetTopBorderColor,
+        &T::SetBottomBorderColor, &T::SetTitleFontSize, &T::SetTitleHeight, &T::SetLabelHeight,
+        &T::SetSelectId, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_PrssureSupportCtrl>& MethodsOf(CProxy_PrssureSupportCtrl*) {
     using T = CProxy_PrssureSupportCtrl;
-    static const Methods<T> methods{Random(&T::Play),
-                                    Random(&T::Stop),
-                                    Random(&T::ReDraw),
-                                    Random(&T::SetPriceData),
-                                    Random(&T::SetColor),
-                                    Random(&T::SetPrSuColor),
-                                    Random(&T::SetPrSuTextColor),
-                                    Random(&T::SetBigMidSmallColor),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::SerSeparLineColor),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Play, &T::Stop, &T::ReDraw, &T::SetPriceData, &T::SetColor, &T::SetPrSuColor,
+        &T::SetPrSuTextColor, &T::SetBigMidSmallColor, &T::SetBorderColor, &T::SerSeparLineColor, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_RiskBarCtrl>& MethodsOf(CProxy_RiskBarCtrl*) {
     using T = CProxy_RiskBarCtrl;
-    static const Methods<T> methods{Random(&T::Play),         Random(&T::Stop),
-                                    Random(&T::ReDraw),       Random(&T::SetData),
-                                    Random(&T::SetTitle),     Random(&T::SetExplain),
-                                    Random(&T::SetColor),     Random(&T::SetTitleTextColor),
-                                    Random(&T::SetLineColor), Random(&T::SetBorderColor),
-                                    Random(&T::Create)};
+    static const Methods<T> methods =
+        RandomCalls<T>(&T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetExplain,
+                       &T::SetColor, &T::SetTitleTextColor, &T::SetLineColor, &T::SetBorderColor, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_RoePointCtrl>& MethodsOf(CProxy_RoePointCtrl*) {
     using T = CProxy_RoePointCtrl;
-    static const Methods<T> methods{Random(&T::Init),
-                                    Random(&T::Play),
-                                    Random(&T::ActiveBlockByInfo),
-                                    Random(&T::SetData),
-                                    Random(&T::SetGirdVisble),
-                                    Random(&T::SetCoordinateShaftFontSize),
-                                    Random(&T::SetGateBkColor),
-                                    Random(&T::SetFontColor),
-                                    Random(&T::SetBorderColor),
-                                    Random(&T::SetGate),
-                                    Random(&T::SetUpdateTime),
-                                    Random(&T::SetTitle),
-                                    Random(&T::SetCoordinateShaftLineColor),
-                                    Random(&T::Create)};
+    static const Methods<T> methods = RandomCalls<T>(
+        &T::Init, &T::Play, &T::ActiveBlockByInfo, &T::SetData, &T::SetGirdVisble,
+        &T::SetCoordinateShaftFontSize, &T::SetGateBkColor, &T::SetFontColor, &T::SetBorderColor, &T::SetGate,
+        &T::SetUpdateTime, &T::SetTitle, &T::SetCoordinateShaftLineColor, &T::Create);
     return methods;
 }
 
 const Methods<CProxy_TabCtrl>& MethodsOf(CProxy_TabCtrl*) {
     using T = CProxy_TabCtrl;
-    static const Methods<T> methods{Random(&T::AddItem),
-                                    Random(&T::ClearContent),
-                                    Random(&T::GetActiveId),
-                                    Random(&T::SelectTabById),
-                                    Random(&T::SetBackColor),
-                                    Random(&T::SetFontColor),
-                                    Random(&T::SetActiveTabBackColor),
-                                    Random(&T::SetActiveTabFontColor),
-                                    Random(&T::SetNormalTabBackColor),
-                                    Random(&T::SetFontSize),
-                                    Random(&T::SetFontBold),
-                                    Random(&T::Create)};
+    static const Methods<T> methods =
+        RandomCalls<T>(&T::AddItem, &T::ClearContent, &T::GetActiveId, &T::SelectTabById, &T::SetBackColor,
+                       &T::SetFontColor, &T::SetActiveTabBackColor, &T::SetActiveTabFontColor,
+                       &T::SetNormalTabBackColor, &T::SetFontSize, &T::SetFontBold, &T::Create);
     return methods;
 }
 
