@@ -5,6 +5,8 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 . scripts/common.sh
 
 install_packages "${native_packages[@]}" "${windows_packages[@]}"
+# One virtual screen for everything that runs below.
+[ -n "${TAVLON_SCREEN_READY:-}" ] || TAVLON_SCREEN_READY=1 exec xvfb-run -a -s "-screen 0 1920x1200x24" scripts/test_windows.sh "$@"
 locale -a | grep -qi '^zh_CN\.utf-\?8$' || {
     grep -q '^zh_CN.UTF-8' /etc/locale.gen || echo 'zh_CN.UTF-8 UTF-8' | as_root tee -a /etc/locale.gen >/dev/null
     quietly as_root locale-gen
@@ -16,11 +18,10 @@ build windows -DBUILD_TESTING=ON "${werror[@]}"
 
 # A Wine set-up of our own, in code page 936, with the two named faces mapped as the native library maps them.
 export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=" LC_ALL=zh_CN.UTF-8
-in_wine() { xvfb-run -a -s "-screen 0 1920x1200x24" wine "$@"; }
 if [ ! -f "$WINEPREFIX/.tavlon-ready" ] || [ -n "$(find scripts -name 'wine-*.reg' -newer "$WINEPREFIX/.tavlon-ready")" ]; then
     mkdir -p "$WINEPREFIX"
-    quietly xvfb-run -a wineboot -i
-    for settings in scripts/wine-*.reg; do quietly in_wine regedit /S "$settings"; done
+    quietly wineboot -i
+    for settings in scripts/wine-*.reg; do quietly wine regedit /S "$settings"; done
     quietly wineserver -w
     touch "$WINEPREFIX/.tavlon-ready"
 fi
@@ -30,7 +31,7 @@ export FONTCONFIG_FILE=$PWD/scripts/wine-fonts.conf
 
 # Every window costs Wine a thousand times what it costs natively: fewer random calls here.
 status=0
-TAVLON_STEPS=${TAVLON_STEPS:-10000} in_wine build/windows/bin/tavlon_tests.exe --gtest_brief=1 "$@" || status=1
+TAVLON_STEPS=${TAVLON_STEPS:-10000} wine build/windows/bin/tavlon_tests.exe --gtest_brief=1 "$@" || status=1
 
 build release -DBUILD_TESTING=ON "${werror[@]}" -- tavlon_gallery compare_pictures
 pictures=build/pictures
@@ -40,7 +41,7 @@ draw() {
     local got=$PWD/$pictures/windows/$1 want=$PWD/$pictures/native/$1 native=$PWD/build/release/bin windows=$PWD/build/windows/bin
     shift
     mkdir -p "$got" "$want"
-    (cd "$got" && in_wine "$windows/tavlon_gallery.exe" "$@" --plain-text >/dev/null)
+    (cd "$got" && wine "$windows/tavlon_gallery.exe" "$@" --plain-text >/dev/null)
     (cd "$want" && env -u FONTCONFIG_FILE "$native/tavlon_gallery" "$@" --plain-text >/dev/null)
     (cd "$want" && ls ./*.png) | sed 's,^\./,,' | xargs "$native/compare_pictures" "$got" "$want" || status=1
 }
