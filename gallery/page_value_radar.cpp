@@ -33,9 +33,9 @@ tagPointRadarItemData RecordOf(const Stock& stock) {
 
 std::vector<std::string> NotesOn(const FrameSelection& chosen) {
     const auto text = [](std::size_t n) { return std::to_string(n); };
-    return {"2018年9月21日收盘，沪深A股" + text(chosen.nAll) +
-                "只，横轴为2018年上半年营收同比增长率(%)；范围内" + text(chosen.nInside) +
-                "只，显示市值最大的" + text(chosen.shown.size()) + "只",
+    return {"2018年9月21日收盘，横轴为2018年上半年营收同比增长率(%)",
+            "沪深A股" + text(chosen.nAll) + "只，范围内" + text(chosen.nInside) + "只，显示市值最大的" +
+                text(chosen.shown.size()) + "只",
             "未显示：超出控件上限" + text(chosen.nOverLimit) + "只，范围(-100~200%，市销率0~30)外" +
                 text(chosen.nOutside) + "只，增长率或市销率未知" + text(chosen.nUnknown) + "只"};
 }

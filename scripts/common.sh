@@ -36,7 +36,7 @@ native_packages=(g++ cmake ninja-build ccache pkg-config binutils-mingw-w64-x86-
     libpixman-1-dev libfreetype-dev libfontconfig-dev libsdl2-dev libpng-dev
     fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35)
 test_packages=(libgtest-dev)
-lint_packages=(clang-tidy clang-format)
+lint_packages=(clang-tidy clang-format git)
 bench_packages=(libbenchmark-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xauth locales)
 

@@ -26,6 +26,8 @@ if [ ! -f "$WINEPREFIX/.tavlon-ready" ] || [ -n "$(find scripts -name 'wine-*.re
     touch "$WINEPREFIX/.tavlon-ready"
 fi
 
+trap 'wineserver -k || true' EXIT
+
 # Unsmoothed text, in the system's own programs as in ours: the pictures are compared pixel by pixel.
 export FONTCONFIG_FILE=$PWD/scripts/wine-fonts.conf
 
@@ -47,5 +49,4 @@ draw() {
 }
 for size in 800x600 637x411; do draw $size --render . --size $size; done
 for script in tests/scripts/*.txt; do draw "$(basename "$script" .txt)" --script "../../../../$script"; done
-wineserver -k || true
 exit $status

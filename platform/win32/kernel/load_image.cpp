@@ -35,6 +35,7 @@ void Map3dColours(std::vector<std::uint32_t>& palette) {
 Picture Scale(Picture source, int cx, int cy) {
     Picture out{cx > 0 ? cx : source.width, cy > 0 ? cy : source.height, {}};
     if (out.width == source.width && out.height == source.height) return source;
+    out.pixels.reserve(static_cast<std::size_t>(out.width) * out.height);
     for (std::int64_t y = 0; y < out.height; ++y)
         for (std::int64_t x = 0; x < out.width; ++x)
             out.pixels.push_back(source.pixels[static_cast<std::size_t>(
@@ -70,7 +71,8 @@ HBITMAP MakeScreenBitmap(const Picture& picture) {
     return hBitmap;
 }
 
-constexpr int kMaxSide = 32767;
+/// Enough for any picture, and little enough to be made without a second thought.
+constexpr int kMaxSide = 4096;
 
 HBITMAP LoadBitmapResource(HINSTANCE hInstance, LPCSTR pszName, int cx, int cy, UINT nFlags) {
     if (cx < 0 || cy < 0 || cx > kMaxSide || cy > kMaxSide) return nullptr;

@@ -109,9 +109,9 @@ bool NothingCanArrive() {
     return !TheDisplay().HasOutsideInput() && MillisecondsToNextTimer() < 0;
 }
 
-void WaitForArrival() {
+void WaitForArrival(HWND filter, UINT first, UINT last) {
     PresentDamage();
-    TheDisplay().Wait(MillisecondsToNextTimer());
+    TheDisplay().Wait(MillisecondsToNextTimer(filter, first, last));
 }
 
 }  // namespace tavlon::win32
@@ -146,7 +146,7 @@ BOOL PeekMessageA(LPMSG pMsg, HWND hWnd, UINT nFirst, UINT nLast, UINT nRemove) 
 
 BOOL GetMessageA(LPMSG pMsg, HWND hWnd, UINT nFirst, UINT nLast) {
     if (!pMsg || (hWnd && hWnd != kThreadMessages && !WindowOf(hWnd))) return -1;
-    while (!PeekMessageA(pMsg, hWnd, nFirst, nLast, PM_REMOVE)) WaitForArrival();
+    while (!PeekMessageA(pMsg, hWnd, nFirst, nLast, PM_REMOVE)) WaitForArrival(hWnd, nFirst, nLast);
     return pMsg->message != WM_QUIT;
 }
 

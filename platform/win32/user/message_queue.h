@@ -17,6 +17,6 @@ void DropMessagesOf(HWND hWnd);
 /// True when no message is there and, without input from outside and timers, none will ever come.
 bool NothingCanArrive();
 /// Sleeps until something may have arrived.
-void WaitForArrival();
+void WaitForArrival(HWND filter = nullptr, UINT first = 0, UINT last = 0);
 
 }  // namespace tavlon::win32

@@ -65,11 +65,12 @@ bool TakeDueTimer(MSG& msg, HWND below, UINT first, UINT last, bool remove) {
     return true;
 }
 
-int MillisecondsToNextTimer() {
-    if (Timers().empty()) return -1;
-    const auto earlier = [](const Timer& a, const Timer& b) { return a.due < b.due; };
-    const auto next = std::min_element(Timers().begin(), Timers().end(), earlier)->due;
-    return static_cast<int>(std::clamp<Milliseconds>(next - Now(), 0, kLongest));
+int MillisecondsToNextTimer(HWND below, UINT first, UINT last) {
+    if (!PassesRange(WM_TIMER, first, last)) return -1;
+    const Timer* next = nullptr;
+    for (const Timer& timer : Timers())
+        if (PassesWindow(timer.window, below) && (!next || timer.due < next->due)) next = &timer;
+    return next ? static_cast<int>(std::clamp<Milliseconds>(next->due - Now(), 0, kLongest)) : -1;
 }
 
 void KillTimersOf(HWND hWnd) {
