@@ -20,7 +20,7 @@ struct Rect {
 
 /// How the desktop should treat a window; `client` is the area the program paints.
 struct WindowSpec {
-    Rect client;
+    Rect client;  ///< At least one pixel wide and high.
     std::string titleUtf8;
     bool framed = false;  ///< Title bar and border from the desktop; else none.
     bool resizable = false;
@@ -48,12 +48,11 @@ enum class EventKind {
     PointerLeave,  ///< the pointer is over none of our windows
     Button,        ///< code 0 left, 1 right, 2 middle; down
     Wheel,         ///< code: clicks, away from the user positive
-    Key,           ///< code: virtual-key code; down
-    Text,          ///< text: UTF-8 beyond what the keys themselves say
+    Key,           ///< code: virtual-key code; down; text: UTF-8 that the press types, if any
+    Text,          ///< text: UTF-8 that belongs to no key event
     FocusGained,
     FocusLost,
-    Moved,    ///< x, y: the client area's new origin
-    Resized,  ///< x, y: the client area's new size
+    Placed,  ///< the desktop moved or sized the window: see Display::PlaceOf
     CloseRequest,
     Exposed,  ///< the window's picture must be presented again
 };
@@ -80,6 +79,8 @@ public:
     virtual WindowId Open(const WindowSpec& spec) = 0;
     virtual void Close(WindowId window) = 0;
     virtual void Place(WindowId window, const Rect& client) = 0;
+    /// Where the client area is by now, as far as the display knows; empty for no window.
+    virtual Rect PlaceOf(WindowId window) const = 0;
     virtual void SetTitle(WindowId window, const std::string& titleUtf8) = 0;
     virtual void Activate(WindowId window) = 0;
     /// Whether keys go to one of our windows.

@@ -64,6 +64,63 @@ TEST(UserMenuModel, DestroyingTakesSubmenusAlong) {
     EXPECT_EQ(-1, GetMenuItemCount(hMenu));
 }
 
+void AppendSubmenu(HMENU hMenu, HMENU hSub, BOOL bWant) {
+    EXPECT_EQ(bWant, AppendMenu(hMenu, MF_POPUP, reinterpret_cast<UINT_PTR>(hSub), "sub"));
+}
+
+TEST(UserMenuModel, NoMenuContainsItself) {
+    const HMENU hOuter = CreatePopupMenu(), hMiddle = CreatePopupMenu(), hInner = CreatePopupMenu();
+    AppendSubmenu(hOuter, hOuter, FALSE);
+    AppendSubmenu(hOuter, hMiddle, TRUE);
+    AppendSubmenu(hMiddle, hInner, TRUE);
+    AppendSubmenu(hInner, hMiddle, FALSE);
+    AppendSubmenu(hInner, hOuter, FALSE);
+    EXPECT_EQ(nullptr, GetSubMenu(hInner, 0)) << "nothing is left below of what was refused";
+    EXPECT_EQ(0xffffffffu, GetMenuState(hOuter, 999, MF_BYCOMMAND)) << "the search ends";
+    EXPECT_TRUE(DestroyMenu(hOuter));
+    EXPECT_FALSE(IsMenu(hInner));
+}
+
+TEST(UserMenuModel, AnEntryChangedIntoASubmenuClosesNoRing) {
+    const HMENU hOuter = CreatePopupMenu(), hInner = CreatePopupMenu();
+    AppendMenu(hInner, MF_STRING, 301, "inner");
+    AppendSubmenu(hOuter, hInner, TRUE);
+    EXPECT_FALSE(ModifyMenu(hInner, 0, MF_BYPOSITION | MF_POPUP, reinterpret_cast<UINT_PTR>(hOuter), "ring"));
+    EXPECT_EQ(nullptr, GetSubMenu(hInner, 0));
+    EXPECT_EQ(0xffffffffu, GetMenuState(hOuter, 999, MF_BYCOMMAND)) << "the search ends";
+    DestroyMenu(hOuter);
+}
+
+TEST(UserMenuModel, NestingHasALimit) {
+    HMENU hMenu = CreatePopupMenu();
+    AppendMenu(hMenu, MF_STRING, 301, "innermost");
+    int nLevels = 1;
+    for (BOOL bNested = TRUE; bNested && nLevels < 100;) {
+        const HMENU hAround = CreatePopupMenu();
+        bNested = AppendMenu(hAround, MF_POPUP, reinterpret_cast<UINT_PTR>(hMenu), "sub");
+        if (bNested) hMenu = hAround, ++nLevels;
+        if (!bNested) DestroyMenu(hAround);
+    }
+    EXPECT_GE(nLevels, 20);
+    EXPECT_LT(nLevels, 50);
+    EXPECT_EQ(0u, GetMenuState(hMenu, 301, MF_BYCOMMAND)) << "what is accepted is found";
+    DestroyMenu(hMenu);
+}
+
+/// Each of 20 levels holds the next one twice: a million ways down, but only 20 menus.
+TEST(UserMenuModel, AMenuInSeveralPlacesIsSearchedOnce) {
+    HMENU hMenu = CreatePopupMenu();
+    for (int nLevel = 0; nLevel < 20; ++nLevel) {
+        const HMENU hAround = CreatePopupMenu();
+        AppendSubmenu(hAround, hMenu, TRUE);
+        AppendSubmenu(hAround, hMenu, TRUE);
+        hMenu = hAround;
+    }
+    for (int nSearch = 0; nSearch < 20; ++nSearch)
+        EXPECT_EQ(0xffffffffu, GetMenuState(hMenu, 999, MF_BYCOMMAND));
+    EXPECT_TRUE(DestroyMenu(hMenu));
+}
+
 /// What a timer does, tick by tick, while a menu is tracked. After the last step the menu is ended.
 std::vector<std::function<void()>> g_steps;
 std::size_t g_nStep;
@@ -189,6 +246,68 @@ TEST_F(UserMenuTracking, PostedMessagesFlow) {
     m_recorder.On(WM_APP, [&](const Message&) -> LRESULT { return ++nPosted, 0; });
     PostMessage(m_hTop, WM_APP, 0, 0);
     Track({[&] { EXPECT_EQ(1, nPosted); }});
+}
+
+TEST_F(UserMenuTracking, EntriesMayBeAddedWhileItIsOpen) {
+    const auto Grow = [this] {
+        for (UINT nId = 401; nId <= 403; ++nId) AppendMenu(m_hMenu, MF_STRING, nId, "more");
+    };
+    EXPECT_EQ(101, Track({Grow, Keys({VK_END, VK_UP, VK_HOME}), Keys({VK_RETURN})}, TPM_RETURNCMD));
+    EXPECT_EQ(403, Track({Keys({VK_END, VK_RETURN})}, TPM_RETURNCMD)) << "shown when it opens again";
+}
+
+TEST_F(UserMenuTracking, MenusMayBeDestroyedWhileTheyAreOpen) {
+    const auto Hover = [] { SetCursorPos(kLeft + 15, kTop + 12); };
+    const HMENU hSub = GetSubMenu(m_hMenu, 4);
+    const auto DestroySub = [=] { DestroyMenu(hSub); };
+    const auto Destroy = [this] { DestroyMenu(m_hMenu); };
+    EXPECT_EQ(0, Track({Keys({VK_UP, VK_UP, VK_RIGHT}), DestroySub, Keys({VK_DOWN, VK_END, 'S'}), Hover},
+                       TPM_RETURNCMD));
+    EXPECT_EQ(0, Track({Keys({VK_DOWN}), Destroy, Keys({VK_DOWN, VK_END, 'H'}), Hover, Keys({VK_RETURN})},
+                       TPM_RETURNCMD));
+    EXPECT_EQ(nullptr, GetCapture());
+}
+
+/// Whether windows are the system's own. Those let no exception out of a handler through, and their menus
+/// keep no WM_QUIT for the outer loop: there is nothing to test then.
+bool WindowsAreTheSystems() { return GetModuleHandle("user32.dll") != nullptr; }
+
+TEST_F(UserMenuTracking, AnExceptionOutOfAHandlerEndsIt) {
+    if (WindowsAreTheSystems()) GTEST_SKIP();
+    for (UINT nThrower : {WM_ENTERMENULOOP, WM_INITMENUPOPUP, WM_APP, WM_UNINITMENUPOPUP, WM_EXITMENULOOP}) {
+        SCOPED_TRACE(nThrower);
+        HWND hPopup = nullptr;
+        m_recorder.On(WM_APP, [&](const Message&) -> LRESULT {
+            hPopup = GetCapture();
+            return EndMenu();
+        });
+        m_recorder.On(nThrower, [&](const Message&) -> LRESULT {
+            if (!hPopup) hPopup = GetCapture();
+            throw nThrower;
+        });
+        PostMessage(m_hTop, WM_APP, 0, 0);
+        EXPECT_THROW(TrackPopupMenu(m_hMenu, 0, kLeft, kTop, 0, m_hTop, nullptr), UINT);
+        EXPECT_EQ(nullptr, GetCapture());
+        EXPECT_FALSE(IsWindow(hPopup));
+        EXPECT_FALSE(EndMenu()) << "nothing is tracked";
+        m_recorder.On(nThrower, [](const Message&) -> LRESULT { return 0; });
+        Pump();
+        EXPECT_EQ(101, Track({Keys({VK_DOWN, VK_RETURN})}, TPM_RETURNCMD));
+    }
+}
+
+TEST_F(UserMenuTracking, QuitEndsItAndReachesTheOuterLoop) {
+    if (WindowsAreTheSystems()) GTEST_SKIP();
+    m_recorder.On(WM_APP, [](const Message&) -> LRESULT { return PostQuitMessage(7), 0; });
+    PostMessage(m_hTop, WM_APP, 0, 0);
+    g_steps = {[] {}}, g_nStep = 0;
+    const UINT_PTR nTimer = SetTimer(nullptr, 0, 100, Tick);
+    TrackPopupMenu(m_hMenu, 0, kLeft, kTop, 0, m_hTop, nullptr);
+    KillTimer(nullptr, nTimer);
+    EXPECT_LE(g_nStep, 1u) << "ended by the message, not by the test";
+    MSG msg{};
+    EXPECT_TRUE(PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(7u, msg.wParam);
 }
 
 TEST_F(UserMenuTracking, BadArgumentsAreRefused) {

@@ -23,6 +23,7 @@ public:
     WindowId Open(const WindowSpec&) override { return ++m_lastWindow; }
     void Close(WindowId) override {}
     void Place(WindowId, const Rect&) override {}
+    Rect PlaceOf(WindowId) const override { return {}; }
     void SetTitle(WindowId, const std::string&) override {}
     void Activate(WindowId) override {}
     bool HasFocus() const override { return true; }

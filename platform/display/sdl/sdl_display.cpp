@@ -79,9 +79,8 @@ public:
     bool FramesWindows() const override { return true; }
 
     WindowId Open(const WindowSpec& spec) override {
-        SDL_Window* window =
-            SDL_CreateWindow(spec.titleUtf8.c_str(), spec.client.x, spec.client.y,
-                             std::max(spec.client.width, 1), std::max(spec.client.height, 1), FlagsOf(spec));
+        SDL_Window* window = SDL_CreateWindow(spec.titleUtf8.c_str(), spec.client.x, spec.client.y,
+                                              spec.client.width, spec.client.height, FlagsOf(spec));
         if (!window) return 0;
         const WindowId id = SDL_GetWindowID(window);
         m_windows[id] = window;
@@ -103,12 +102,19 @@ public:
     void Place(WindowId id, const Rect& client) override {
         SDL_Window* window = Find(id);
         if (!window) return;
-        int x = 0, y = 0, width = 0, height = 0;
-        SDL_GetWindowPosition(window, &x, &y);
-        SDL_GetWindowSize(window, &width, &height);
-        if (x != client.x || y != client.y) SDL_SetWindowPosition(window, client.x, client.y);
-        if (width != client.width || height != client.height)
-            SDL_SetWindowSize(window, std::max(client.width, 1), std::max(client.height, 1));
+        const Rect now = PlaceOf(id);
+        if (now.x != client.x || now.y != client.y) SDL_SetWindowPosition(window, client.x, client.y);
+        if (now.width != client.width || now.height != client.height)
+            SDL_SetWindowSize(window, client.width, client.height);
+    }
+
+    Rect PlaceOf(WindowId id) const override {
+        Rect place;
+        SDL_Window* window = Find(id);
+        if (!window) return place;
+        SDL_GetWindowPosition(window, &place.x, &place.y);
+        SDL_GetWindowSize(window, &place.width, &place.height);
+        return place;
     }
 
     void SetTitle(WindowId id, const std::string& title) override {

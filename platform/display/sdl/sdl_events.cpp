@@ -18,17 +18,13 @@ void PlacePointer(Uint32 window, int x, int y, Event& event) {
 
 bool TranslateWindowEvent(const SDL_WindowEvent& raw, Event& event) {
     event.window = raw.windowID;
-    event.x = raw.data1;
-    event.y = raw.data2;
     switch (raw.event) {
         case SDL_WINDOWEVENT_EXPOSED:
             event.kind = EventKind::Exposed;
             return true;
         case SDL_WINDOWEVENT_MOVED:
-            event.kind = EventKind::Moved;
-            return true;
         case SDL_WINDOWEVENT_SIZE_CHANGED:
-            event.kind = EventKind::Resized;
+            event.kind = EventKind::Placed;
             return true;
         case SDL_WINDOWEVENT_LEAVE:
             event.kind = EventKind::PointerLeave;
@@ -67,20 +63,29 @@ bool TranslateButton(const SDL_MouseButtonEvent& raw, Event& event) {
     }
 }
 
+/// What a key types comes right behind it; an input method's text does not.
+std::string TakeTextOfKey() {
+    SDL_Event next;
+    const bool text = SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) == 1 &&
+                      next.type == SDL_TEXTINPUT;
+    if (text) SDL_PeepEvents(&next, 1, SDL_GETEVENT, SDL_TEXTINPUT, SDL_TEXTINPUT);
+    return text ? next.text.text : std::string();
+}
+
 bool TranslateKey(const SDL_KeyboardEvent& raw, Event& event) {
     event.kind = EventKind::Key;
     event.window = raw.windowID;
     event.code = VirtualKeyOf(raw.keysym.sym);
     event.down = raw.state == SDL_PRESSED;
+    if (event.code && event.down) event.text = TakeTextOfKey();
     return event.code != 0;
 }
 
-/// Plain ASCII comes from the keys already.
 bool TranslateText(const SDL_TextInputEvent& raw, Event& event) {
     event.kind = EventKind::Text;
     event.window = raw.windowID;
     event.text = raw.text;
-    return !event.text.empty() && static_cast<unsigned char>(event.text[0]) >= 0x80;
+    return !event.text.empty();
 }
 
 }  // namespace

@@ -28,7 +28,9 @@ void EndCapture() {
 }
 
 void ForgetCapture(HWND hWnd) {
-    if (g_capture == hWnd) g_capture = nullptr;
+    if (!g_capture || g_capture != hWnd) return;
+    g_capture = nullptr;
+    TheDisplay().Capture(false);
 }
 
 }  // namespace tavlon::win32

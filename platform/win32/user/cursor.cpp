@@ -52,10 +52,12 @@ HCURSOR LoadResourceCursor(HINSTANCE hInstance, LPCSTR name) {
     static std::map<std::tuple<HINSTANCE, ULONG_PTR, std::string>, HCURSOR> loaded;
     const bool numbered = IS_INTRESOURCE(name);
     const ULONG_PTR number = numbered ? reinterpret_cast<ULONG_PTR>(name) : 0;
-    HCURSOR& hCursor = loaded[{hInstance, number, numbered ? std::string() : std::string(name)}];
-    if (hCursor && Table().Get(hCursor)) return hCursor;
+    const std::tuple key(hInstance, number, numbered ? std::string() : std::string(name));
+    if (const auto found = loaded.find(key); found != loaded.end()) return found->second;
     auto picture = LoadCursorImage(hInstance, name);
-    hCursor = picture ? AddCursor({std::move(*picture), display::StockCursor::None, false, true}) : nullptr;
+    if (!picture) return nullptr;
+    const HCURSOR hCursor = AddCursor({std::move(*picture), display::StockCursor::None, false, true});
+    if (hCursor) loaded.emplace(key, hCursor);
     return hCursor;
 }
 

@@ -1,5 +1,7 @@
 #include "user/desktop.h"
 
+#include <algorithm>
+
 #include "kernel/code_page.h"
 #include "user/geometry.h"
 #include "user/screen.h"
@@ -25,9 +27,13 @@ bool IsFramed(const Window& window) { return window.Has(WS_CAPTION); }
 /// The desktop frames what has a caption; a border of ours is part of the picture.
 RECT PresentedRect(const Window& window) { return IsFramed(window) ? ClientOnScreen(window) : window.frame; }
 
+/// What the display is asked to show; it cannot show an empty window.
 display::Rect DisplayRect(const RECT& rect) {
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+    return {rect.left, rect.top, std::max<int>(rect.right - rect.left, 1),
+            std::max<int>(rect.bottom - rect.top, 1)};
 }
+
+display::Rect PlaceOf(const Window& window) { return DisplayRect(PresentedRect(window)); }
 
 bool ShouldShow(const Window& window) {
     return !window.parent && window.Has(WS_VISIBLE) && !window.Has(WS_MINIMIZE) && !window.destroying;
@@ -35,7 +41,7 @@ bool ShouldShow(const Window& window) {
 
 display::WindowSpec SpecOf(const Window& window) {
     const Window* owner = window.owner ? WindowOf(window.owner) : nullptr;
-    return {DisplayRect(PresentedRect(window)),
+    return {PlaceOf(window),
             Utf8Title(window),
             IsFramed(window),
             window.Has(WS_THICKFRAME),
@@ -74,6 +80,16 @@ void Present(Window& window) {
     window.damage.Clear();
 }
 
+bool SamePlace(const display::Rect& a, const display::Rect& b) {
+    return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
+}
+
+void MoveFrameAlong(const Window& window, const display::Rect& from, const display::Rect& to) {
+    SetWindowPos(window.self, nullptr, window.frame.left + to.x - from.x, window.frame.top + to.y - from.y,
+                 window.Width() + to.width - from.width, window.Height() + to.height - from.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 }  // namespace
 
 display::Display& TheDisplay() {
@@ -90,10 +106,17 @@ void SyncWithDesktop(Window& window) {
     if (window.parent) return;
     if (!ShouldShow(window)) return CloseOnDesktop(window);
     if (window.shown)
-        TheDisplay().Place(window.shown, DisplayRect(PresentedRect(window)));
+        TheDisplay().Place(window.shown, PlaceOf(window));
     else
         window.shown = TheDisplay().Open(SpecOf(window));
     window.damage.Set(LocalRect(window.Width(), window.Height()));
+}
+
+/// Position and size together: the desktop reports them one by one, and half of the news would undo the rest.
+void FollowDesktop(Window& window) {
+    const display::Rect now = PlaceOf(window), place = TheDisplay().PlaceOf(window.shown);
+    window.damage.Set(LocalRect(window.Width(), window.Height()));
+    if (!SamePlace(now, place)) MoveFrameAlong(window, now, place);
 }
 
 void RetitleOnDesktop(Window& window) {

@@ -9,6 +9,8 @@ namespace tavlon::win32 {
 display::Display& TheDisplay();
 /// Brings the display's window in line with ours: opened, placed or closed. Any window; its root is meant.
 void SyncWithDesktop(Window& window);
+/// The other way round: the desktop moved or sized the window, ours goes along.
+void FollowDesktop(Window& window);
 void RetitleOnDesktop(Window& window);
 void RaiseOnDesktop(Window& window);
 void CloseOnDesktop(Window& window);

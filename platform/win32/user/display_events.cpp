@@ -2,6 +2,7 @@
 #include "user/activation.h"
 #include "user/desktop.h"
 #include "user/geometry.h"
+#include "user/input_queue.h"
 #include "user/message_queue.h"
 #include "user/mouse_tracking.h"
 #include "user/outside_input.h"
@@ -17,35 +18,17 @@ Window* WindowShownAs(display::WindowId id) {
     return nullptr;
 }
 
-/// The desktop moves and sizes the client area; the frame we think around it goes along.
-void FollowDesktop(Window& window, POINT clientAt, POINT clientSize) {
-    const bool framed = window.Has(WS_CAPTION);
-    const POINT border = framed ? ClientInFrame(window) : POINT{0, 0};
-    const int extraWidth = framed ? window.Width() - window.ClientWidth() : 0;
-    const int extraHeight = framed ? window.Height() - window.ClientHeight() : 0;
-    SetWindowPos(window.self, nullptr, clientAt.x - border.x, clientAt.y - border.y,
-                 clientSize.x + extraWidth, clientSize.y + extraHeight, SWP_NOZORDER | SWP_NOACTIVATE);
-}
+std::string Encoded(const std::string& utf8) { return EncodeCodePage936(DecodeUtf8Text(utf8)); }
 
-RECT Presented(const Window& window) {
-    return window.Has(WS_CAPTION) ? ClientOnScreen(window) : FrameOnScreen(window);
-}
-
-void Moved(Window& window, const display::Event& event) {
-    const RECT at = Presented(window);
-    FollowDesktop(window, {event.x, event.y}, {at.right - at.left, at.bottom - at.top});
-}
-
-void Resized(Window& window, const display::Event& event) {
-    const RECT at = Presented(window);
-    FollowDesktop(window, {at.left, at.top}, {event.x, event.y});
+void KeyPressedOrReleased(const display::Event& event) {
+    KeySeen(event.code, event.down);
+    if (event.down) AttachText(event.code, Encoded(event.text));
 }
 
 void TextTyped(const std::string& utf8) {
     const HWND hFocus = GetFocus();
     if (!hFocus) return;
-    for (char c : EncodeCodePage936(DecodeUtf8Text(utf8)))
-        PostMessageA(hFocus, WM_CHAR, static_cast<unsigned char>(c), 1);
+    for (char c : Encoded(utf8)) PostMessageA(hFocus, WM_CHAR, static_cast<unsigned char>(c), 1);
 }
 
 /// The desktop may give its focus to a popup on its own accord; among ours the active window stays as it is.
@@ -61,10 +44,8 @@ void HandleWindowEvent(const display::Event& event) {
     Window* window = WindowShownAs(event.window);
     if (!window) return;
     switch (event.kind) {
-        case display::EventKind::Moved:
-            return Moved(*window, event);
-        case display::EventKind::Resized:
-            return Resized(*window, event);
+        case display::EventKind::Placed:
+            return FollowDesktop(*window);
         case display::EventKind::CloseRequest:
             PostMessageA(window->self, WM_SYSCOMMAND, SC_CLOSE, 0);
             return;
@@ -95,7 +76,7 @@ void Handle(const display::Event& event) {
             WheelSeen(event.code);
             return;
         case display::EventKind::Key:
-            KeySeen(event.code, event.down);
+            KeyPressedOrReleased(event);
             return;
         case display::EventKind::Text:
             TextTyped(event.text);

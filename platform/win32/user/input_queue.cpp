@@ -48,6 +48,20 @@ bool TakeMade(MSG& msg, HWND below, UINT first, UINT last, bool remove) {
     return true;
 }
 
+bool IsMove(const MSG& msg) { return msg.message == WM_MOUSEMOVE || msg.message == WM_NCMOUSEMOVE; }
+
+bool MergesWith(const MSG& last, const MSG& msg) {
+    return IsMove(msg) && last.message == msg.message && last.hwnd == msg.hwnd;
+}
+
+void KeepMade(const MSG& msg) {
+    auto& made = Made();
+    if (!made.empty() && MergesWith(made.back(), msg))
+        made.back() = msg;
+    else if (made.size() < kMaxInput)
+        made.push_back(msg);
+}
+
 /// The messages sent on the way (WM_SETCURSOR, WM_MOUSEACTIVATE) may take input themselves, so the event
 /// leaves the queue first.
 bool MakeNext(UINT first, UINT last) {
@@ -58,7 +72,7 @@ bool MakeNext(UINT first, UINT last) {
     const InputEvent event = *found;
     waiting.erase(found);
     MSG msg;
-    if (Make(event, msg)) Made().push_back(msg);
+    if (Make(event, msg)) KeepMade(msg);
     return true;
 }
 
@@ -72,6 +86,12 @@ void QueueInput(const InputEvent& event) {
         waiting.back() = event;
     else if (waiting.size() < kMaxInput)
         waiting.push_back(event);
+}
+
+void AttachText(int key, const std::string& text) {
+    if (Waiting().empty()) return;
+    InputEvent& last = Waiting().back();
+    if (last.kind == InputKind::Key && last.down && last.code == key) last.text = text;
 }
 
 void ReturnPress(const MSG& msg) {

@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <optional>
+#include <string>
+
 namespace tavlon::win32 {
 
 enum class InputKind { Move, Button, Wheel, Key };
@@ -15,10 +18,13 @@ struct InputEvent {
     bool down = false;
     BYTE scan = 0;
     DWORD time = 0;
+    std::optional<std::string> text = {};  ///< What a key press types, where the desktop says it.
 };
 
 /// Moves that nobody has read yet merge into one.
 void QueueInput(const InputEvent& event);
+/// The desktop says what the key press queued last types: code page bytes, empty for nothing.
+void AttachText(int key, const std::string& text);
 /// A button press that was read goes back to be delivered again, to whom it concerns by then.
 void ReturnPress(const MSG& msg);
 /// The next message out of input that passes the filter.

@@ -1,4 +1,6 @@
+#include <array>
 #include <cctype>
+#include <string>
 #include <string_view>
 
 #include "user/input_queue.h"
@@ -52,17 +54,47 @@ int DigitOf(int key, bool shift) {
     return shift ? kShifted[static_cast<std::size_t>(key - '0')] : key;
 }
 
-/// -1: the key types nothing.
+/// 0 for a key outside the number block, and for its separator, which a plain keyboard does not have.
+char NumberBlockCharacterOf(int key) {
+    constexpr std::string_view kTyped("0123456789*+\0-./", 16);
+    return key >= 0x60 && key <= 0x6F ? kTyped[static_cast<std::size_t>(key - 0x60)] : '\0';
+}
+
+/// Keys that type the same on every keyboard.
+bool IsFixedKey(int key) {
+    return key == VK_RETURN || key == VK_ESCAPE || key == VK_BACK || key == VK_TAB || key == VK_SPACE;
+}
+
+/// By the table of a plain keyboard; -1: the key types nothing.
 int CharacterOf(int key) {
     const bool shift = IsKeyDown(VK_SHIFT);
     if (key >= 'A' && key <= 'Z') return LetterOf(key, shift);
-    if (key == VK_RETURN || key == VK_ESCAPE || key == VK_BACK || key == VK_TAB || key == VK_SPACE)
-        return key;
+    if (IsFixedKey(key)) return key;
     if (IsKeyDown(VK_CONTROL)) return -1;
     if (key >= '0' && key <= '9') return DigitOf(key, shift);
-    if (key >= 0x60 && key <= 0x69) return '0' + key - 0x60;  // the number block
+    if (const char typed = NumberBlockCharacterOf(key)) return typed;
     const char punctuation = PunctuationOf(key, shift);
     return punctuation ? punctuation : -1;
+}
+
+/// What the desktop said that the press read last types; none for a press it knows nothing of.
+std::optional<std::string>& TextOfPress(int key) {
+    static std::array<std::optional<std::string>, 256> texts;
+    return texts[static_cast<std::size_t>(key)];
+}
+
+/// The desktop knows the keyboard in use, so its word counts; it has none for keys with Ctrl or Alt.
+bool DesktopDecides(int key, const std::string& text) {
+    if (IsFixedKey(key) || IsKeyDown(VK_CONTROL)) return false;
+    return !text.empty() || !IsKeyDown(VK_MENU);
+}
+
+/// Code page bytes; empty when the key types nothing.
+std::string TypedBy(int key) {
+    const auto& text = TextOfPress(key);
+    if (text && DesktopDecides(key, *text)) return *text;
+    const int character = CharacterOf(key);
+    return character < 0 ? std::string() : std::string(1, static_cast<char>(character));
 }
 
 }  // namespace
@@ -70,6 +102,7 @@ int CharacterOf(int key) {
 bool MakeKeyMessage(const InputEvent& event, MSG& msg) {
     const bool wasDown = IsKeyDown(event.code);
     ApplyKeyState(event.code, event.down);
+    if (event.code >= 0 && event.code <= 0xff) TextOfPress(event.code) = event.text;
     const HWND hFocus = GetFocus();
     const HWND hTarget = hFocus ? hFocus : GetActiveWindow();
     if (!IsWindow(hTarget)) return false;
@@ -86,11 +119,13 @@ BOOL TranslateMessage(const MSG* pMsg) {
     if (!pMsg) return FALSE;
     const bool down = pMsg->message == WM_KEYDOWN || pMsg->message == WM_SYSKEYDOWN;
     if (!down) return pMsg->message == WM_KEYUP || pMsg->message == WM_SYSKEYUP;
-    const int character = pMsg->wParam <= 0xff ? CharacterOf(static_cast<int>(pMsg->wParam)) : -1;
-    if (character < 0) return TRUE;
+    if (pMsg->wParam > 0xff) return TRUE;
+    const std::string text = TypedBy(static_cast<int>(pMsg->wParam));
     MSG typed = *pMsg;
     typed.message = pMsg->message == WM_KEYDOWN ? WM_CHAR : WM_SYSCHAR;
-    typed.wParam = static_cast<WPARAM>(character);
-    PostFirst(typed);
+    for (std::size_t i = text.size(); i-- > 0;) {  // each goes before the one posted earlier
+        typed.wParam = static_cast<unsigned char>(text[i]);
+        PostFirst(typed);
+    }
     return TRUE;
 }

@@ -1,6 +1,7 @@
 #include "user/input_queue.h"
 #include "user/menu_track.h"
 #include "user/message_queue.h"
+#include "user/move_loop.h"
 
 namespace tavlon::win32 {
 
@@ -64,8 +65,7 @@ void HandleKey(MenuTracker& tracker, const MSG& msg) {
 }
 
 void HandleMessage(MenuTracker& tracker, const MSG& msg) {
-    if (msg.message == WM_QUIT) {
-        PostQuitMessage(static_cast<int>(msg.wParam));  // the outer loop's to see
+    if (PassQuitOn(msg)) {
         tracker.Cancel();
     } else if (IsMouse(msg.message)) {
         HandleMouse(tracker, msg);
@@ -99,12 +99,26 @@ void Run(MenuTracker& tracker) {
     }
 }
 
+/// The tracker is the one menu for as long as this lives. Leaves no popup behind, whatever a handler throws.
+class Tracking {
+public:
+    explicit Tracking(MenuTracker& tracker) : m_tracker(tracker) { g_tracker = &tracker; }
+    ~Tracking() {
+        m_tracker.Abandon();
+        g_tracker = nullptr;
+    }
+    Tracking(const Tracking&) = delete;
+    Tracking& operator=(const Tracking&) = delete;
+
+private:
+    MenuTracker& m_tracker;
+};
+
 UINT_PTR Track(HMENU hMenu, UINT flags, POINT at, HWND hOwner) {
     MenuTracker tracker(hMenu, flags, hOwner);
-    g_tracker = &tracker;
+    const Tracking tracking(tracker);
     if (tracker.Begin(at)) Run(tracker);
     tracker.End();
-    g_tracker = nullptr;
     return tracker.Command();
 }
 

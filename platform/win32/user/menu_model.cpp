@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <set>
+
 #include "kernel/handle_table.h"
 #include "kernel/menu_resource.h"
 #include "user/menu.h"
@@ -8,18 +11,23 @@ namespace tavlon::win32 {
 
 namespace {
 
-constexpr int kMaxDepth = 16;
+constexpr int kMaxNesting = 32;  // menus below one another, the outermost counted
 constexpr std::size_t kMaxItems = 4096;
 constexpr UINT kStateBits = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_SEPARATOR;
 
-using MenuTable = HandleTable<Menu, kTagMenu>;
+/// `level` is how many menus are above it at most. It never shrinks: what takes a submenu out destroys it.
+struct NestedMenu : Menu {
+    int level = 0;
+};
+
+using MenuTable = HandleTable<NestedMenu, kTagMenu>;
 
 MenuTable& Table() {
     static MenuTable table;
     return table;
 }
 
-HMENU AddMenu() { return static_cast<HMENU>(Table().Add(std::make_unique<Menu>())); }
+HMENU AddMenu() { return static_cast<HMENU>(Table().Add(std::make_unique<NestedMenu>())); }
 
 MenuItem MakeItem(UINT flags, UINT_PTR id, LPCSTR text) {
     MenuItem item;
@@ -31,13 +39,56 @@ MenuItem MakeItem(UINT flags, UINT_PTR id, LPCSTR text) {
     return item;
 }
 
-FoundItem FindByCommand(HMENU hMenu, UINT id, int depth) {
-    Menu* menu = Table().Get(hMenu);
-    if (!menu || depth > kMaxDepth) return {};
+using MenuSet = std::set<NestedMenu*>;
+
+MenuSet SubmenusOf(const MenuSet& menus) {
+    MenuSet below;
+    for (const NestedMenu* menu : menus)
+        for (const MenuItem& item : menu->items)
+            if (NestedMenu* submenu = item.submenu ? Table().Get(item.submenu) : nullptr)
+                below.insert(submenu);
+    return below;
+}
+
+/// The menu itself, its submenus, theirs, and so on. Ends, as no menu is ever below itself.
+std::vector<MenuSet> LevelsFrom(NestedMenu* menu) {
+    std::vector<MenuSet> levels;
+    for (MenuSet now{menu}; !now.empty(); now = SubmenusOf(now)) levels.push_back(now);
+    return levels;
+}
+
+/// Makes the one menu a submenu of the other. Refused when that would close a ring or nest too deep.
+bool Nest(NestedMenu& above, NestedMenu* submenu) {
+    const std::vector<MenuSet> levels = LevelsFrom(submenu);
+    bool refused = above.level + 1 + static_cast<int>(levels.size()) > kMaxNesting;
+    for (const MenuSet& menus : levels) refused = refused || menus.count(&above) > 0;
+    if (refused) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return false;
+    }
+    int level = above.level;
+    for (const MenuSet& menus : levels) {
+        ++level;
+        for (NestedMenu* menu : menus) menu->level = std::max(menu->level, level);
+    }
+    return true;
+}
+
+/// For an entry about to be set; true for one without a submenu.
+bool NestSubmenu(Menu* above, UINT flags, UINT_PTR id) {
+    if (!(flags & MF_POPUP)) return true;
+    const auto hSubmenu = reinterpret_cast<HMENU>(id);
+    return MenuOf(hSubmenu) && Nest(static_cast<NestedMenu&>(*above), Table().Get(hSubmenu));
+}
+
+/// A menu that stands in several places is searched once.
+FoundItem FindByCommand(HMENU hMenu, UINT id, MenuSet& searched) {
+    NestedMenu* menu = Table().Get(hMenu);
+    if (!menu || !searched.insert(menu).second) return {};
     for (std::size_t i = 0; i < menu->items.size(); ++i) {
         const MenuItem& item = menu->items[i];
         if (!item.submenu && !item.IsSeparator() && item.id == id) return {menu, i};
-        if (const FoundItem found = item.submenu ? FindByCommand(item.submenu, id, depth + 1) : FoundItem{})
+        if (const FoundItem found = item.submenu ? FindByCommand(item.submenu, id, searched) : FoundItem{})
             return found;
     }
     return {};
@@ -73,7 +124,8 @@ std::size_t LiveMenus() { return Table().Live(); }
 FoundItem FindMenuItem(HMENU hMenu, UINT id, UINT flags) {
     Menu* menu = MenuOf(hMenu);
     if (!menu) return {};
-    if (!(flags & MF_BYPOSITION)) return FindByCommand(hMenu, id, 0);
+    MenuSet searched;
+    if (!(flags & MF_BYPOSITION)) return FindByCommand(hMenu, id, searched);
     return id < menu->items.size() ? FoundItem{menu, id} : FoundItem{};
 }
 
@@ -101,14 +153,14 @@ BOOL DestroyMenu(HMENU hMenu) {
 BOOL AppendMenuA(HMENU hMenu, UINT nFlags, UINT_PTR nId, LPCSTR pszText) {
     Menu* menu = MenuOf(hMenu);
     if (!menu || menu->items.size() >= kMaxItems) return FALSE;
-    if ((nFlags & MF_POPUP) && !MenuOf(reinterpret_cast<HMENU>(nId))) return FALSE;
+    if (!NestSubmenu(menu, nFlags, nId)) return FALSE;
     menu->items.push_back(MakeItem(nFlags, nId, pszText));
     return TRUE;
 }
 
 BOOL ModifyMenuA(HMENU hMenu, UINT nPosition, UINT nFlags, UINT_PTR nId, LPCSTR pszText) {
     const FoundItem found = FindMenuItem(hMenu, nPosition, nFlags);
-    if (!found || ((nFlags & MF_POPUP) && !MenuOf(reinterpret_cast<HMENU>(nId)))) return FALSE;
+    if (!found || !NestSubmenu(found.menu, nFlags, nId)) return FALSE;
     MenuItem& item = found.menu->items[found.index];
     const HMENU hOld = item.submenu;
     item = MakeItem(nFlags, nId, pszText);

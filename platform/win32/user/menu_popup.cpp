@@ -59,13 +59,10 @@ void DrawMenu(HDC hdc, const MenuPopup& popup) {
     RECT rect{0, 0, popup.layout.size.cx, popup.layout.size.cy};
     FillRect(hdc, &rect, GetSysColorBrush(COLOR_MENU));
     FrameRect(hdc, &rect, GetSysColorBrush(COLOR_3DSHADOW));
-    const Menu* menu = MenuOf(popup.menu);
-    if (!menu) return;
     const HGDIOBJ hOld = SelectObject(hdc, GetStockObject(DEFAULT_GUI_FONT));
     SetBkMode(hdc, TRANSPARENT);
-    const std::size_t count = std::min(menu->items.size(), popup.layout.rows.size());
-    for (std::size_t i = 0; i < count; ++i)
-        DrawItem(hdc, menu->items[i], popup.layout.rows[i], static_cast<int>(i) == popup.selected);
+    for (int i = 0; i < popup.Count(); ++i)
+        DrawItem(hdc, *popup.ItemAt(i), popup.layout.rows[static_cast<std::size_t>(i)], i == popup.selected);
     SelectObject(hdc, hOld);
 }
 
@@ -124,7 +121,17 @@ int MenuPopup::RowAt(POINT screen) const {
     return MenuRowAt(layout, screen);
 }
 
+int MenuPopup::Count() const {
+    const Menu* model = MenuOf(menu);
+    return model ? static_cast<int>(std::min(model->items.size(), layout.rows.size())) : 0;
+}
+
+const MenuItem* MenuPopup::ItemAt(int row) const {
+    return row >= 0 && row < Count() ? &MenuOf(menu)->items[static_cast<std::size_t>(row)] : nullptr;
+}
+
 void MenuPopup::Select(int row) {
+    if (row >= static_cast<int>(layout.rows.size())) return;
     for (int changed : {selected, row})
         if (changed >= 0) InvalidateRect(window, &layout.rows[static_cast<std::size_t>(changed)], FALSE);
     selected = row;

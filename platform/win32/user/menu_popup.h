@@ -24,7 +24,10 @@ struct MenuPopup {
     void Close();
     bool Contains(POINT screen) const;
     int RowAt(POINT screen) const;
-    void Select(int row);
+    /// Rows that show an entry: the menu may have grown or be gone since it was laid out.
+    int Count() const;
+    const MenuItem* ItemAt(int row) const;  ///< Null when no row shows an entry there.
+    void Select(int row);                   ///< -1 for none.
 };
 
 /// How the menu window finds what it shows; null when none of the open levels is it.

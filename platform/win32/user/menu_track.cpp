@@ -47,6 +47,18 @@ void MenuTracker::End() {
     Notify(WM_EXITMENULOOP, TRUE, 0);
 }
 
+/// What a handler of the closing throws leaves the levels below it still to be closed.
+void MenuTracker::Abandon() noexcept {
+    while (!m_levels.empty()) {
+        MenuPopup popup = Last();
+        m_levels.pop_back();
+        try {
+            popup.Close();
+        } catch (...) {
+        }
+    }
+}
+
 bool MenuTracker::Running() const {
     return !m_done && IsWindow(m_owner) && !m_levels.empty() && IsWindow(m_levels.front().window) &&
            GetCapture() == m_levels.front().window;
@@ -89,13 +101,12 @@ void MenuTracker::SelectRow(std::size_t level, int row) {
 }
 
 void MenuTracker::TellSelected(const MenuPopup& popup) const {
-    const Menu* menu = MenuOf(popup.menu);
-    if (!menu || popup.selected < 0 || popup.selected >= static_cast<int>(menu->items.size())) return;
-    const MenuItem& item = menu->items[static_cast<std::size_t>(popup.selected)];
-    UINT flags = item.state;
-    if (!item.IsSeparator()) flags |= MF_HILITE;
-    if (item.submenu) flags |= MF_POPUP;
-    const UINT_PTR id = item.submenu ? static_cast<UINT_PTR>(popup.selected) : item.id;
+    const MenuItem* item = popup.ItemAt(popup.selected);
+    if (!item) return;
+    UINT flags = item->state;
+    if (!item->IsSeparator()) flags |= MF_HILITE;
+    if (item->submenu) flags |= MF_POPUP;
+    const UINT_PTR id = item->submenu ? static_cast<UINT_PTR>(popup.selected) : item->id;
     Notify(WM_MENUSELECT, MAKEWPARAM(id, flags), reinterpret_cast<LPARAM>(popup.menu));
 }
 
@@ -113,8 +124,7 @@ void MenuTracker::Hover(POINT pt) {
     if (row < 0 || row == m_levels[at].selected) return;
     SelectRow(at, row);
     if (m_levels.size() != at + 1) return;
-    const Menu* menu = MenuAt(at);
-    if (menu && menu->items[static_cast<std::size_t>(row)].submenu) OpenSelected();
+    OpenSelected();
 }
 
 void MenuTracker::Release(POINT pt) {
@@ -123,22 +133,17 @@ void MenuTracker::Release(POINT pt) {
     Hover(pt);
     const auto at = static_cast<std::size_t>(level);
     if (at >= m_levels.size() || m_levels[at].RowAt(pt) != m_levels[at].selected) return;
-    const Menu* menu = MenuAt(at);
-    if (!menu || m_levels[at].selected < 0) return;
-    const MenuItem& item = menu->items[static_cast<std::size_t>(m_levels[at].selected)];
-    if (item.IsEnabled() && !item.submenu) Choose(item);
+    const MenuItem* item = m_levels[at].ItemAt(m_levels[at].selected);
+    if (item && item->IsEnabled() && !item->submenu) Choose(*item);
 }
 
 void MenuTracker::Step(int direction) {
-    const Menu* menu = MenuAt(m_levels.size() - 1);
-    if (!menu || menu->items.empty()) return;
-    const int count = static_cast<int>(menu->items.size());
+    const int count = Last().Count();
     int row = Last().selected;
     if (row < 0 && direction < 0) row = 0;
     for (int tried = 0; tried < count; ++tried) {
         row = (row + direction + count) % count;
-        if (!menu->items[static_cast<std::size_t>(row)].IsSeparator())
-            return SelectRow(m_levels.size() - 1, row);
+        if (!Last().ItemAt(row)->IsSeparator()) return SelectRow(m_levels.size() - 1, row);
     }
 }
 
@@ -149,15 +154,13 @@ void MenuTracker::SelectEnd(bool last) {
 
 void MenuTracker::OpenSelected() {
     const MenuPopup& popup = Last();
-    const Menu* menu = MenuOf(popup.menu);
-    if (!menu || popup.selected < 0) return;
+    const MenuItem* item = popup.ItemAt(popup.selected);
+    if (!item || !item->submenu || !item->IsEnabled()) return;
     const auto row = static_cast<std::size_t>(popup.selected);
-    const MenuItem& item = menu->items[row];
-    if (!item.submenu || !item.IsEnabled()) return;
     RECT rect{};
     GetWindowRect(popup.window, &rect);
     const POINT at{rect.right - 3, rect.top + popup.layout.rows[row].top - 3};
-    OpenLevel(item.submenu, at, rect.right - rect.left - 6, popup.selected);
+    OpenLevel(item->submenu, at, rect.right - rect.left - 6, popup.selected);
 }
 
 void MenuTracker::EnterSubmenu() {
@@ -178,13 +181,12 @@ void MenuTracker::CloseLast() {
 }
 
 void MenuTracker::Execute() {
-    const Menu* menu = MenuAt(m_levels.size() - 1);
-    if (!menu || Last().selected < 0) return Cancel();
-    const MenuItem& item = menu->items[static_cast<std::size_t>(Last().selected)];
-    if (item.submenu)
+    const MenuItem* item = Last().ItemAt(Last().selected);
+    if (!item) return Cancel();
+    if (item->submenu)
         EnterSubmenu();
     else
-        Choose(item);
+        Choose(*item);
 }
 
 /// A greyed entry ends the menu without a command, as the keyboard can stand on it.
@@ -194,9 +196,8 @@ void MenuTracker::Choose(const MenuItem& item) {
 }
 
 int MenuTracker::RowTyped(char character) const {
-    const Menu* menu = MenuAt(m_levels.size() - 1);
-    for (std::size_t i = 0; menu && i < menu->items.size(); ++i)
-        if (KeyOf(menu->items[i]) == Lower(character)) return static_cast<int>(i);
+    for (int i = 0; i < Last().Count(); ++i)
+        if (KeyOf(*Last().ItemAt(i)) == Lower(character)) return i;
     return -1;
 }
 

@@ -13,6 +13,7 @@ public:
 
     bool Begin(POINT at);
     void End();
+    void Abandon() noexcept;  ///< Closes what is still open without telling the owner.
 
     bool Running() const;
     void Cancel() { m_done = true; }
@@ -40,7 +41,7 @@ public:
 
 private:
     MenuPopup& Last() { return m_levels.back(); }
-    const Menu* MenuAt(std::size_t level) const { return MenuOf(m_levels[level].menu); }
+    const MenuPopup& Last() const { return m_levels.back(); }
     int LevelAt(POINT pt) const;
     void Notify(UINT message, WPARAM wParam, LPARAM lParam) const;
     bool OpenLevel(HMENU hMenu, POINT at, int beside, int position);

@@ -71,9 +71,7 @@ bool NextMessage(MSG& msg) {
         if (NothingCanArrive()) return false;
         WaitForArrival();
     }
-    if (msg.message != WM_QUIT) return true;
-    PostQuitMessage(static_cast<int>(msg.wParam));  // the outer loop's to see
-    return false;
+    return !PassQuitOn(msg);
 }
 
 void Run(Drag& drag) {
@@ -82,7 +80,36 @@ void Run(Drag& drag) {
         HandleOne(drag, msg);
 }
 
+void Finish(HWND hWnd) {
+    if (GetCapture() == hWnd) EndCapture();
+    if (IsWindow(hWnd)) SendMessageA(hWnd, WM_EXITSIZEMOVE, 0, 0);
+}
+
+/// What a handler threw is what the caller shall see, not what another one throws at the end.
+void FinishAfterFailure(HWND hWnd) {
+    try {
+        Finish(hWnd);
+    } catch (...) {
+    }
+}
+
+void RunToTheEnd(Drag& drag) {
+    try {
+        Run(drag);
+    } catch (...) {
+        FinishAfterFailure(drag.window);
+        throw;
+    }
+    Finish(drag.window);
+}
+
 }  // namespace
+
+bool PassQuitOn(const MSG& msg) {
+    if (msg.message != WM_QUIT) return false;
+    PostQuitMessage(static_cast<int>(msg.wParam));
+    return true;
+}
 
 void RunMoveLoop(HWND hWnd) {
     const Window* window = WindowOf(hWnd);
@@ -95,9 +122,7 @@ void RunMoveLoop(HWND hWnd) {
     SendMessageA(hWnd, WM_ENTERSIZEMOVE, 0, 0);
     if (!IsWindow(hWnd)) return;
     SetCapture(hWnd);
-    Run(drag);
-    if (GetCapture() == hWnd) EndCapture();
-    if (IsWindow(hWnd)) SendMessageA(hWnd, WM_EXITSIZEMOVE, 0, 0);
+    RunToTheEnd(drag);
 }
 
 }  // namespace tavlon::win32

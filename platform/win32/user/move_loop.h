@@ -9,4 +9,8 @@ namespace tavlon::win32 {
 /// is not down.
 void RunMoveLoop(HWND hWnd);
 
+/// For loops inside the program's own: WM_QUIT is posted again for the outer loop to see, and ends the inner
+/// one. False for any other message.
+bool PassQuitOn(const MSG& msg);
+
 }  // namespace tavlon::win32

@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include "recorder.h"
+
+using namespace user_test;
+
+namespace {
+
+/// A popup that is dragged by a press at (230,230), which it takes for its caption.
+class UserMoveLoop : public testing::Test {
+protected:
+    UserMoveLoop() {
+        Pump();
+        SetCursorPos(230, 230);
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        Pump();
+        m_recorder.Only({WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE});
+        m_recorder.Clear();
+    }
+    ~UserMoveLoop() override { mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0); }
+
+    /// The first message of the drag is WM_APP.
+    void Drag() {
+        PostMessage(m_hPopup, WM_APP, 0, 0);
+        SendMessage(m_hPopup, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+    }
+
+    Recorder m_recorder;
+    HWND m_hTop = m_recorder.CreateTop();
+    HWND m_hPopup =
+        m_recorder.Create("popup", WS_POPUP | WS_BORDER | WS_VISIBLE, m_hTop, {200, 200, 280, 260});
+};
+
+TEST_F(UserMoveLoop, QuitEndsItAndReachesTheOuterLoop) {
+    m_recorder.On(WM_APP, [](const Message&) -> LRESULT { return PostQuitMessage(7), 0; });
+    Drag();
+    EXPECT_EQ("popup.ENTERSIZEMOVE popup.EXITSIZEMOVE", Joined(m_recorder.Take()));
+    EXPECT_EQ(nullptr, GetCapture());
+    MSG msg{};
+    const bool bKept = PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) && msg.wParam == 7;
+    EXPECT_TRUE(bKept || GetModuleHandle("user32.dll")) << "the system's own loop may swallow it";
+}
+
+TEST_F(UserMoveLoop, AnExceptionOutOfAHandlerEndsIt) {
+    // They do not pass through the system's own window code; where that is in use there is nothing to test.
+    if (GetModuleHandle("user32.dll")) GTEST_SKIP();
+    for (UINT nMessage : {WM_CAPTURECHANGED, WM_EXITSIZEMOVE, WM_NULL}) {
+        SCOPED_TRACE(nMessage);
+        m_recorder.Clear();
+        m_recorder.On(WM_APP, [](const Message&) -> LRESULT { throw 1; });
+        m_recorder.On(nMessage, [](const Message&) -> LRESULT { throw 2u; });
+        EXPECT_THROW(Drag(), int) << "the first exception is the one that is seen";
+        m_recorder.On(nMessage, [](const Message&) -> LRESULT { return 0; });
+        EXPECT_EQ(nullptr, GetCapture());
+        const bool bCutShort = nMessage == WM_CAPTURECHANGED;
+        EXPECT_EQ(bCutShort ? "popup.ENTERSIZEMOVE" : "popup.ENTERSIZEMOVE popup.EXITSIZEMOVE",
+                  Joined(m_recorder.Take()));
+    }
+}
+
+}  // namespace
