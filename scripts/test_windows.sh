@@ -35,18 +35,6 @@ export FONTCONFIG_FILE=$PWD/scripts/wine-fonts.conf
 status=0
 TAVLON_STEPS=${TAVLON_STEPS:-10000} wine build/windows/bin/tavlon_tests.exe --gtest_brief=1 "$@" || status=1
 
-build release -DBUILD_TESTING=ON "${werror[@]}" -- tavlon_gallery compare_pictures
-pictures=build/pictures
-rm -rf $pictures
-# draw NAME ARGUMENTS...: the gallery run with these arguments on both platforms, and its pictures compared.
-draw() {
-    local got=$PWD/$pictures/windows/$1 want=$PWD/$pictures/native/$1 native=$PWD/build/release/bin windows=$PWD/build/windows/bin
-    shift
-    mkdir -p "$got" "$want"
-    (cd "$got" && wine "$windows/tavlon_gallery.exe" "$@" --plain-text >/dev/null)
-    (cd "$want" && env -u FONTCONFIG_FILE "$native/tavlon_gallery" "$@" --plain-text >/dev/null)
-    (cd "$want" && ls ./*.png) | sed 's,^\./,,' | xargs "$native/compare_pictures" "$got" "$want" || status=1
-}
-for size in 800x600 637x411; do draw $size --render . --size $size; done
-for script in tests/scripts/*.txt; do draw "$(basename "$script" .txt)" --script "../../../../$script"; done
+build release -DBUILD_TESTING=ON "${werror[@]}" -- tavlon_gallery tavlon_scenes compare_pictures
+. scripts/compare_platforms.sh
 exit $status

@@ -97,9 +97,14 @@ private:
         fs::create_directories(file.parent_path());
         return file.replace_filename(m_name.stem().string() + "-" + pszWhich + m_name.extension().string());
     }
+    /// Not every run-time library overwrites when it is told to.
+    static void Keep(const fs::path& from, const fs::path& to) {
+        fs::remove(to);
+        fs::copy_file(from, to);
+    }
     void KeepBoth() {
-        fs::copy_file(m_got, Kept("got"), fs::copy_options::overwrite_existing);
-        fs::copy_file(m_want, Kept("want"), fs::copy_options::overwrite_existing);
+        Keep(m_got, Kept("got"));
+        Keep(m_want, Kept("want"));
     }
 
     fs::path m_got, m_want, m_failures, m_name;

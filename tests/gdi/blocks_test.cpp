@@ -203,4 +203,74 @@ TEST(GdiBlocks, BitmapBitsReadBack) {
     EXPECT_EQ(0xee, bytes[24]);
 }
 
+TEST(GdiBlocks, ShrunkRowsAndColumns) {
+    struct Case {
+        const char* name;
+        int mode;
+        COLORREF want;
+    };
+    // Four pixels come together: the first row's last one, or all of them.
+    for (const Case& c :
+         {Case{"one stays", COLORONCOLOR, 0x0000f0}, Case{"dark wins", BLACKONWHITE, 0x000000},
+          Case{"light wins", WHITEONBLACK, 0x0f0fff}}) {
+        SCOPED_TRACE(c.name);
+        Canvas from(2, 4, 32), to(1, 2, 32);
+        SetPixelV(from, 0, 0, 0x0000ff), SetPixelV(from, 1, 0, 0x0000f0);
+        SetPixelV(from, 0, 1, 0x000f00), SetPixelV(from, 1, 1, 0x0f0000);
+        SetStretchBltMode(to, c.mode);
+        StretchBlt(to, 1, 0, -1, 2, from, 0, 0, 2, 4, SRCCOPY);
+        EXPECT_EQ(0u, GetPixel(to, 0, 0));  // a negative width counts from the pixel leftwards
+        StretchBlt(to, 0, 0, -1, 2, from, 0, 0, 2, 4, SRCCOPY);
+        EXPECT_EQ(c.want, GetPixel(to, 0, 0));
+    }
+}
+
+TEST(GdiBlocks, MirroredPartOfASourceStandsWhereItWouldStandUnmirrored) {
+    Canvas from(3, 1, 32), to(6, 1, 32);
+    FillRow(from, 3);
+    SetStretchBltMode(to, COLORONCOLOR);
+    StretchBlt(to, 0, 0, 4, 1, from, 2, 0, -4, 1, SRCCOPY);  // from -1 to 2
+    EXPECT_EQ("0 3 2 1 0 0 ", Row(to, 6));
+    StretchBlt(to, 0, 0, 4, 1, from, 3, 0, 4, 1, SRCCOPY);
+    EXPECT_EQ("0 3 2 1 0 0 ", Row(to, 6));
+}
+
+TEST(GdiBlocks, SpritesAreBlackWhereTheirSourceEnds) {
+    Canvas sprite(2, 1, 32), to(6, 1, 32);
+    FillRow(sprite, 2);
+    PatBlt(to, 0, 0, 6, 1, WHITENESS);
+    EXPECT_TRUE(TransparentBlt(to, 0, 0, 4, 1, sprite, 0, 0, 4, 1, 2));
+    EXPECT_EQ("1 16777215 0 0 16777215 16777215 ", Row(to, 6));
+    EXPECT_TRUE(TransparentBlt(to, 4, 0, 1, 1, sprite, 0, 0, 0, 0, 2));
+    EXPECT_EQ("1 16777215 0 0 0 16777215 ", Row(to, 6));
+}
+
+TEST(GdiBlocks, BitsReadBackFromAnotherHeight) {
+    struct Case {
+        const char* name;
+        int height;
+        UINT first, lines;
+        int answer;
+        const char* want;
+    };
+    // Three rows 1, 2, 3; a picture of another height shares their upper edge.
+    for (const Case& c :
+         {Case{"bottom up", 3, 0, 3, 3, "3 2 1 "}, Case{"lower lines, top down", -3, 0, 2, 2, "2 3 "},
+          Case{"shorter", 2, 0, 2, 2, "2 1 "}, Case{"higher", 4, 0, 2, 1, "0 3 "},
+          Case{"higher, top down", -5, 0, 3, 1, "3 0 0 "}, Case{"no lines", 3, 3, 2, 1, ""}}) {
+        SCOPED_TRACE(c.name);
+        Picture picture(1, 3);
+        for (int y = 0; y < 3; ++y) SetPixelV(picture.Dc(), 0, y, RGB(0, 0, y + 1));
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof info.bmiHeader, 1, c.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        std::array<DWORD, 8> pixels;
+        pixels.fill(0xeeeeeeee);
+        EXPECT_EQ(c.answer, GetDIBits(picture.Dc(), picture.Bitmap(), c.first, c.lines, pixels.data(), &info,
+                                      DIB_RGB_COLORS));
+        std::string text;
+        for (int i = 0; i < 8 && pixels[i] != 0xeeeeeeee; ++i) text += std::to_string(pixels[i]) + ' ';
+        EXPECT_EQ(c.want, text);
+    }
+}
+
 }  // namespace

@@ -134,6 +134,10 @@ TEST_F(GdiObjects, Records) {
     EXPECT_EQ(5, pen.lopnWidth.x);
     EXPECT_EQ(0, GetObjectA(odd, 4, &pen));
     EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, 0, nullptr));
+    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, -1, &pen));  // counts as a huge size
+    WORD entries = 0;
+    EXPECT_EQ(2, GetObjectA(GetStockObject(DEFAULT_PALETTE), sizeof entries, &entries));
+    EXPECT_EQ(20, entries);
     DeleteObject(odd);
 
     LOGFONTA font{};
@@ -153,6 +157,8 @@ TEST_F(GdiObjects, AttributesRefuseValuesOutOfRange) {
     EXPECT_EQ(0, SetStretchBltMode(m_dc, 9));
     EXPECT_EQ(OPAQUE, GetBkMode(m_dc));
     EXPECT_EQ(R2_COPYPEN, GetROP2(m_dc));
+    SetTextAlign(m_dc, 0xffffffff);
+    EXPECT_EQ(0xffffu, GetTextAlign(m_dc));
     EXPECT_EQ(RGB(0, 0, 0), SetTextColor(m_dc, RGB(9, 9, 9)));
     EXPECT_EQ(RGB(9, 9, 9), SetTextColor(m_dc, RGB(1, 1, 1)));
 }

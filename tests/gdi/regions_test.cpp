@@ -1,6 +1,8 @@
 /// Regions: their algebra, and clipping with them.
 #include <gtest/gtest.h>
 
+#include <climits>
+
 #include "gdi/picture.h"
 
 namespace {
@@ -57,6 +59,9 @@ TEST(GdiRegions, Questions) {
     const RECT touching{5, 3, 9, 9}, beside{6, 1, 9, 4};
     EXPECT_TRUE(RectInRegion(region, &touching));
     EXPECT_FALSE(RectInRegion(region, &beside));
+    const RECT line{3, 0, 3, 9}, edge{2, 0, 2, 9};  // without area
+    EXPECT_TRUE(RectInRegion(region, &line));
+    EXPECT_FALSE(RectInRegion(region, &edge));
 
     Rgn moved(3, 3, 7, 6), empty(3, 3, 3, 9);
     EXPECT_FALSE(EqualRgn(region, moved));
@@ -65,6 +70,25 @@ TEST(GdiRegions, Questions) {
     EXPECT_EQ(NULLREGION, GetRgnBox(empty, &box));
     EXPECT_TRUE(SetRectRgn(empty, 2, 1, 6, 4));
     EXPECT_TRUE(EqualRgn(region, empty));
+}
+
+TEST(GdiRegions, CoordinatesMayBeAnyNumber) {
+    Rgn all(INT_MIN, INT_MIN, INT_MAX, INT_MAX), part(-2000000000, 0, 10, 10);
+    RECT box{};
+    EXPECT_EQ(SIMPLEREGION, GetRgnBox(all, &box));
+    EXPECT_EQ(INT_MIN, box.left);
+    EXPECT_EQ(INT_MAX, box.bottom);
+    EXPECT_EQ(SIMPLEREGION, CombineRgn(all, all, part, RGN_AND));
+    EXPECT_TRUE(EqualRgn(all, part));
+    EXPECT_EQ(SIMPLEREGION, OffsetRgn(part, 2000000000, INT_MAX - 10));
+    GetRgnBox(part, &box);
+    EXPECT_EQ(0, box.left);
+    EXPECT_EQ(INT_MAX, box.bottom);
+    OffsetRgn(part, INT_MAX, INT_MAX);  // what leaves the range is no matter, but it must do no harm
+    OffsetRgn(part, INT_MIN, INT_MIN);
+    const POINT point{1, 1};
+    Rgn empty(CreatePolygonRgn(&point, 0, ALTERNATE));
+    EXPECT_EQ(NULLREGION, GetRgnBox(empty, &box));
 }
 
 TEST(GdiRegions, RefusedCalls) {
@@ -120,6 +144,36 @@ TEST(GdiClipping, NarrowingAndAsking) {
     EXPECT_EQ(NULLREGION, GetClipBox(hdc, &box));
     SelectClipRgn(hdc, nullptr);
     EXPECT_EQ(0, GetClipRgn(hdc, clip));
+}
+
+TEST(GdiClipping, OnABitmapTheClipMayReachBeyond) {
+    Picture picture(20, 10);
+    HDC hdc = picture.Dc();
+    Rgn copy(0, 0, 0, 0);
+    RECT box{};
+    EXPECT_EQ(SIMPLEREGION, IntersectClipRect(hdc, -5, 12, 8, 30));
+    GetClipRgn(hdc, copy);
+    GetRgnBox(copy, &box);
+    EXPECT_EQ(-5, box.left);
+    EXPECT_EQ(30, box.bottom);
+    EXPECT_EQ(NULLREGION, GetClipBox(hdc, &box));  // the edges of what is left cross
+    EXPECT_EQ(12, box.top);
+    EXPECT_EQ(10, box.bottom);
+    const RECT both{5, 9, 9, 13}, clipOnly{0, 13, 4, 15};
+    EXPECT_TRUE(RectVisible(hdc, &both));
+    EXPECT_FALSE(RectVisible(hdc, &clipOnly));
+    EXPECT_FALSE(PtVisible(hdc, 5, 13));
+}
+
+TEST(GdiClipping, RefusedChanges) {
+    Picture picture(20, 10);
+    Rgn region(0, 0, 5, 5), copy(0, 0, 0, 0);
+    EXPECT_EQ(ERROR, ExtSelectClipRgn(picture.Dc(), nullptr, RGN_OR));
+    EXPECT_EQ(0, GetClipRgn(picture.Dc(), copy));
+    EXPECT_EQ(ERROR, ExtSelectClipRgn(picture.Dc(), region, 9));  // leaves all as the clip
+    EXPECT_EQ(1, GetClipRgn(picture.Dc(), copy));
+    EXPECT_TRUE(EqualRgn(copy, Rgn(0, 0, 20, 10)));
+    EXPECT_EQ(SIMPLEREGION, SelectClipRgn(picture.Dc(), nullptr));
 }
 
 TEST(GdiClipping, SavedStateBringsTheClipBack) {

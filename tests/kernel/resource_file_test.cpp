@@ -229,7 +229,7 @@ TEST(BitmapResource, SystemColoursAndSize) {
             LoadImageA(module.hModule, MAKEINTRESOURCEA(1), IMAGE_BITMAP, cx, 0, nFlags)));
     };
     EXPECT_EQ(szWant, load(0, LR_LOADMAP3DCOLORS));
-    EXPECT_EQ("C0C0C0 C0C0C0 010203 010203 ", load(4, LR_DEFAULTCOLOR));
+    EXPECT_EQ("C0C0C0 616162 010203 010203 ", load(4, LR_DEFAULTCOLOR));  // enlarged smoothly
     EXPECT_EQ("none", load(-1, LR_DEFAULTCOLOR));
     EXPECT_EQ(nullptr, LoadImageA(module.hModule, "file.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
     EXPECT_EQ(nullptr, LoadImageA(module.hModule, MAKEINTRESOURCEA(1), 77, 0, 0, 0));

@@ -1,14 +1,27 @@
-/// Controls with fixed data.
-#include "scenes/scene.h"
+/// Controls in a window, with data of the dice.
+#include "scenes/control_scenes.h"
 
 namespace scenes {
 
 namespace {
 
-void Nothing(Stage&) {}
+using namespace controls;
 
 constexpr PictureKind kKinds[] = {
-    {"control_none", {160, 120}, Nothing},
+    {"control_value_radar", {300, 220}, ValueRadar},
+    {"control_value_radar_hover", {300, 220}, ValueRadarHover},
+    {"control_value_radar_odd_sizes", {300, 220}, ValueRadarOddSizes},
+    {"control_point_radar", {300, 220}, PointRadar},
+    {"control_star_chart", {300, 220}, StarChart},
+    {"control_wheel", {300, 240}, Wheel},
+    {"control_minute_chart", {360, 260}, MinuteChart},
+    {"control_money_flow_pies", {300, 260}, MoneyFlowPies},
+    {"control_price_radar", {400, 200}, PriceRadar},
+    {"control_histogram", {300, 200}, Histogram},
+    {"control_risk_bar", {220, 300}, RiskBar},
+    {"control_position_bar", {260, 220}, PositionBar},
+    {"control_pressure_ladder", {240, 280}, PressureLadder},
+    {"control_tab_strip", {300, 160}, TabStrip},
 };
 
 }  // namespace

@@ -76,6 +76,23 @@ TEST(DrawText, WordBreak) {
         Check(c);
 }
 
+TEST(DrawText, PlacesForBreaks) {
+    for (const Layout& c :
+         {Layout{"behind a hyphen", "ab-cd", DT_WORDBREAK, 26, 50, 30, 30, 19, 30},
+          Layout{"behind a slash", "ab/cd", DT_WORDBREAK, 26, 50, 30, 30, 19, 30},
+          Layout{"not inside a number", "1.5", DT_WORDBREAK, 10, 50, 15, 15, 20, 15},
+          Layout{"not before a percent sign", "5%", DT_WORDBREAK, 8, 50, 15, 15, 13, 15},
+          Layout{"not before a closing sign, even behind spaces", "ab 。", DT_WORDBREAK, 20, 50, 15, 15, 32,
+                 15},
+          Layout{"the end of what fits is none", "ab cd Hello", DT_WORDBREAK, 34, 50, 45, 45, 34, 45},
+          Layout{"one space hangs at a break", "ab   cd", DT_WORDBREAK, 40, 50, 30, 30, 33, 30},
+          Layout{"and counts for nothing on the right", "ab   cd", DT_WORDBREAK | DT_RIGHT, 40, 50, 30, 30,
+                 26, 30},
+          Layout{"the space that does not fit is dropped", "ab cd", DT_WORDBREAK, 14, 50, 30, 30, 14, 30},
+          Layout{"no width, no breaks", "ab cd", DT_WORDBREAK, -1, 50, 15, 15, 33, 15}})
+        Check(c);
+}
+
 TEST(DrawText, Ellipsis) {
     const UINT nOneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
     for (const Layout& c :
@@ -85,6 +102,8 @@ TEST(DrawText, Ellipsis) {
           Layout{"dots even without room", "Hello", nOneLine, 0, 40, 15, 15, 18, 15},
           Layout{"whole Chinese characters", "上证指数", nOneLine, 34, 40, 15, 15, 31, 15},
           Layout{"no single line asked for", "上证指数", DT_END_ELLIPSIS, 34, 40, 15, 15, 31, 15},
+          Layout{"only the last line is cut", "Hello\nWorld", DT_END_ELLIPSIS, 20, 40, 30, 30, 34, 30},
+          Layout{"the one before a last line end too", "Hello\n", DT_END_ELLIPSIS, 20, 40, 15, 15, 18, 15},
           Layout{"wrapped lines need none", "上证指数", DT_END_ELLIPSIS | DT_WORDBREAK, 34, 40, 30, 30, 26,
                  30}})
         Check(c);
@@ -129,6 +148,29 @@ TEST(DrawText, ClipsUnlessTold) {
     DrawTextA(canvas.hdc, "Hello", 5, &rc, DT_SINGLELINE | DT_NOCLIP);
     EXPECT_EQ(43, canvas.Ink().right);
     EXPECT_EQ(22, canvas.Ink().bottom);
+}
+
+TEST(DrawText, PrefixLine) {
+    struct Case {
+        const char* pszName;
+        const char* pszText;
+        int cy;
+        LONG yBottom;
+    };
+    // The ascent is 13: the line is the 15th row, and the row below the rectangle still shows it.
+    for (const Case& c : {Case{"inside", "&e", 15, 25}, Case{"one row below", "&e", 14, 25},
+                          Case{"two rows below", "&e", 13, 22}, Case{"no mark", "e", 15, 22}}) {
+        SCOPED_TRACE(c.pszName);
+        TextCanvas canvas(kFaces[0], kFontHeight);
+        RECT rc{10, 10, 70, 10 + c.cy};
+        DrawTextA(canvas.hdc, c.pszText, -1, &rc, DT_SINGLELINE);
+        EXPECT_EQ(c.yBottom, canvas.Ink().bottom);
+    }
+    TextCanvas canvas(kFaces[0], kFontHeight);
+    RECT rc{10, 10, 70, 50};
+    DrawTextA(canvas.hdc, "&e&e", -1, &rc, DT_SINGLELINE);
+    EXPECT_EQ(0xffffffu, canvas.Pixel(10, 24)) << "only the last mark shows";
+    EXPECT_EQ(0u, canvas.Pixel(17, 24));
 }
 
 TEST(DrawText, EllipsisLooksLikeDots) {

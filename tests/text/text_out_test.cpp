@@ -100,6 +100,40 @@ TEST(TextOut, GivenAdvances) {
     EXPECT_TRUE(Same({5, 5, 47, 20}, canvas.Ink()));
 }
 
+TEST(TextOut, LinesAlongTheText) {
+    struct Case {
+        const char* pszName;
+        const char* pszFace;
+        int nHeight;
+        bool bUnder;
+        LONG yTop, yBottom;  ///< From the base line.
+    };
+    for (const Case& c :
+         {Case{"under", kFaces[0], 14, true, 1, 2}, Case{"through", kFaces[0], 14, false, -3, -2},
+          Case{"under, taller", kFaces[0], 40, true, 2, 4},
+          Case{"through, taller", kFaces[0], 40, false, -10, -8},
+          Case{"under, other face", kFaces[1], 32, true, 3, 4},
+          Case{"through, other face", kFaces[1], 32, false, -7, -6}}) {
+        SCOPED_TRACE(c.pszName);
+        TextCanvas canvas(c.pszFace, c.nHeight);
+        const HFONT hFont = CreateFontA(c.nHeight, 0, 0, 0, FW_NORMAL, 0, c.bUnder, !c.bUnder,
+                                        DEFAULT_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0, c.pszFace);
+        const HGDIOBJ hOld = SelectObject(canvas.hdc, hFont);
+        SetTextAlign(canvas.hdc, TA_BASELINE);
+        const RECT rc{0, 0, 1, 1};  // clips the text, not the line
+        ExtTextOutA(canvas.hdc, 20, 50, ETO_CLIPPED, &rc, " ", 1, nullptr);
+        EXPECT_TRUE(Same({20, 50 + c.yTop, 20 + canvas.Extent(" ").cx, 50 + c.yBottom}, canvas.Ink()));
+        DeleteObject(SelectObject(canvas.hdc, hOld));
+    }
+}
+
+TEST(TextOut, InkStaysInItsCell) {
+    // A frame's corner that the face draws taller than its cell.
+    const TextCanvas canvas(kFaces[1], 24);
+    TextOutA(canvas.hdc, 20, 20, "\xa9\xba", 2);
+    EXPECT_EQ(20, canvas.Ink().top);
+}
+
 TEST(TextOut, PaintsTheSameTwice) {
     TextCanvas canvas(kFaces[0], 13, FW_BOLD);
     TextOutA(canvas.hdc, 3, 3, "风险12%", 7);

@@ -3,76 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "support/message_names.h"
+
 namespace user_test {
 
 namespace {
 
-struct Name {
-    UINT nMessage;
-    const char* pszName;
-};
-
-constexpr Name kNames[] = {
-    {WM_GETMINMAXINFO, "GETMINMAXINFO"},
-    {WM_NCCREATE, "NCCREATE"},
-    {WM_NCCALCSIZE, "NCCALCSIZE"},
-    {WM_CREATE, "CREATE"},
-    {WM_SIZE, "SIZE"},
-    {WM_MOVE, "MOVE"},
-    {WM_PARENTNOTIFY, "PARENTNOTIFY"},
-    {WM_SHOWWINDOW, "SHOWWINDOW"},
-    {WM_WINDOWPOSCHANGING, "POSCHANGING"},
-    {WM_WINDOWPOSCHANGED, "POSCHANGED"},
-    {WM_NCPAINT, "NCPAINT"},
-    {WM_ERASEBKGND, "ERASEBKGND"},
-    {WM_PAINT, "PAINT"},
-    {WM_ACTIVATEAPP, "ACTIVATEAPP"},
-    {WM_NCACTIVATE, "NCACTIVATE"},
-    {WM_ACTIVATE, "ACTIVATE"},
-    {WM_SETFOCUS, "SETFOCUS"},
-    {WM_KILLFOCUS, "KILLFOCUS"},
-    {WM_CHILDACTIVATE, "CHILDACTIVATE"},
-    {WM_ENABLE, "ENABLE"},
-    {WM_CANCELMODE, "CANCELMODE"},
-    {WM_CAPTURECHANGED, "CAPTURECHANGED"},
-    {WM_NCHITTEST, "NCHITTEST"},
-    {WM_SETCURSOR, "SETCURSOR"},
-    {WM_MOUSEACTIVATE, "MOUSEACTIVATE"},
-    {WM_MOUSEMOVE, "MOUSEMOVE"},
-    {WM_LBUTTONDOWN, "LBUTTONDOWN"},
-    {WM_LBUTTONUP, "LBUTTONUP"},
-    {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK"},
-    {WM_RBUTTONDOWN, "RBUTTONDOWN"},
-    {WM_RBUTTONUP, "RBUTTONUP"},
-    {WM_MOUSEWHEEL, "MOUSEWHEEL"},
-    {WM_MOUSELEAVE, "MOUSELEAVE"},
-    {WM_CONTEXTMENU, "CONTEXTMENU"},
-    {WM_KEYDOWN, "KEYDOWN"},
-    {WM_KEYUP, "KEYUP"},
-    {WM_CHAR, "CHAR"},
-    {WM_COMMAND, "COMMAND"},
-    {WM_ENTERMENULOOP, "ENTERMENULOOP"},
-    {WM_INITMENU, "INITMENU"},
-    {WM_INITMENUPOPUP, "INITMENUPOPUP"},
-    {WM_MENUSELECT, "MENUSELECT"},
-    {WM_UNINITMENUPOPUP, "UNINITMENUPOPUP"},
-    {WM_EXITMENULOOP, "EXITMENULOOP"},
-    {WM_ENTERSIZEMOVE, "ENTERSIZEMOVE"},
-    {WM_MOVING, "MOVING"},
-    {WM_EXITSIZEMOVE, "EXITSIZEMOVE"},
-    {WM_SYSCOMMAND, "SYSCOMMAND"},
-    {WM_CLOSE, "CLOSE"},
-    {WM_DESTROY, "DESTROY"},
-    {WM_NCDESTROY, "NCDESTROY"},
-};
-
 Recorder* g_pRecorder = nullptr;
-
-const char* NameOf(UINT nMessage) {
-    const auto* pFound = std::find_if(std::begin(kNames), std::end(kNames),
-                                      [nMessage](const Name& name) { return name.nMessage == nMessage; });
-    return pFound == std::end(kNames) ? nullptr : pFound->pszName;
-}
 
 bool Holds(const std::vector<UINT>& messages, UINT nMessage) {
     return std::find(messages.begin(), messages.end(), nMessage) != messages.end();
@@ -166,7 +103,7 @@ bool Recorder::Wanted(UINT nMessage) const {
 }
 
 void Recorder::Log(const Message& message) {
-    const char* pszName = NameOf(message.nMessage);
+    const char* pszName = NameOfMessage(message.nMessage);
     if (pszName && Wanted(message.nMessage)) m_log.push_back(m_names[message.hWnd] + "." + pszName);
 }
 

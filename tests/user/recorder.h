@@ -20,8 +20,8 @@ struct Message {
 /// What a test does with one kind of message instead of the default processing.
 using Handler = std::function<LRESULT(const Message&)>;
 
-/// Names windows by their title and keeps one log for all of them. Only messages of the table in recorder.cpp
-/// are logged: what belongs to input methods, palettes and themes differs between systems.
+/// Names windows by their title and keeps one log for all of them. Only messages of the table in
+/// message_names.h are logged.
 class Recorder {
 public:
     Recorder();

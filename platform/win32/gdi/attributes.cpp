@@ -26,6 +26,8 @@ Value Read(HDC hdc, Value DcState::*attribute, Value failure) {
     return dc ? dc->state.*attribute : failure;
 }
 
+constexpr UINT kAlignBits = 0xffff;  // more is not kept
+
 }  // namespace
 
 COLORREF SetTextColor(HDC hdc, COLORREF clr) { return Exchange(hdc, &DcState::textColor, clr, CLR_INVALID); }
@@ -36,7 +38,9 @@ int SetBkMode(HDC hdc, int nMode) {
     return ExchangeInRange(hdc, &DcState::bkMode, nMode, TRANSPARENT, OPAQUE);
 }
 int GetBkMode(HDC hdc) { return Read(hdc, &DcState::bkMode, 0); }
-UINT SetTextAlign(HDC hdc, UINT nAlign) { return Exchange(hdc, &DcState::textAlign, nAlign, GDI_ERROR); }
+UINT SetTextAlign(HDC hdc, UINT nAlign) {
+    return Exchange(hdc, &DcState::textAlign, nAlign & kAlignBits, GDI_ERROR);
+}
 UINT GetTextAlign(HDC hdc) { return Read(hdc, &DcState::textAlign, 0u); }
 int SetROP2(HDC hdc, int nMode) { return ExchangeInRange(hdc, &DcState::rop2, nMode, R2_BLACK, R2_WHITE); }
 int GetROP2(HDC hdc) { return Read(hdc, &DcState::rop2, 0); }

@@ -19,4 +19,8 @@ inline unsigned PatternTable(DWORD rop) { return (TableOf(rop) & 3) | (TableOf(r
 /// What the source does not have stays unchanged.
 void Transfer(DeviceContext& dst, const RECT& wanted, DeviceContext& src, POINT from, DWORD rop);
 
+/// A part of the source's surface (inside it) in the depth of the destination: single bits become the
+/// destination's text and background colour, colours become single bits by the source's background colour.
+SurfaceRef ConvertedSource(const DeviceContext& dst, const DeviceContext& src, const RECT& part);
+
 }  // namespace tavlon::win32

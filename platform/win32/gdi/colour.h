@@ -8,6 +8,7 @@
 namespace tavlon::win32 {
 
 constexpr std::uint32_t kWhitePixel = 0xffffffu;
+constexpr int kPaletteEntries = 20;  ///< Colours that indexes into the one palette stand for.
 
 /// Exchanges red and blue; the top byte is dropped. Its own inverse.
 inline std::uint32_t SwapRedBlue(std::uint32_t colour) {

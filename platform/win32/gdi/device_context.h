@@ -67,14 +67,20 @@ RECT ToSurface(const DeviceContext& dc, const RECT& logical);
 /// The selected font's description.
 const LOGFONTA& FontDescription(const DeviceContext& dc);
 
-/// The pixel that a colour becomes on the context's surface: 0x00RRGGBB, or all clear / all set where pixels
+/// The pixel that a colour becomes where pixels are colours: 0x00RRGGBB.
+std::uint32_t TruePixelOf(COLORREF colour);
+/// The pixel that a colour becomes on the context's surface: the same, or all clear / all set where pixels
 /// are single bits.
 std::uint32_t PixelOf(const DeviceContext& dc, COLORREF colour);
 /// The same for pens and text, which on single bits stand out from the background colour.
 std::uint32_t InkPixelOf(const DeviceContext& dc, COLORREF colour);
+/// The pixel of the background colour behind ink of a colour.
+std::uint32_t PaperPixelOf(const DeviceContext& dc, COLORREF ink);
 
-/// Fills `rect` (surface pixels) with a colour, clipped; no raster operation. Notes the damage.
+/// Fills `rect` (surface pixels) with a colour, as ink, or with the background colour behind text; clipped; no
+/// raster operation. Notes the damage.
 void FillDeviceRect(DeviceContext& dc, const RECT& rect, COLORREF colour);
+void FillBackground(DeviceContext& dc, const RECT& rect);
 
 /// Draws a glyph: `coverage` holds width * height bytes, 0 leaves the pixel, 255 sets `colour`, between is
 /// mixed. (x, y) is the surface pixel of its top-left corner. Clipped; notes the damage.

@@ -23,19 +23,30 @@ std::array<RGBQUAD, 256> ReadPalette(const BITMAPINFO& info) {
     return palette;
 }
 
-void LoadDib(Surface& surface, const DibFormat& format, const std::uint8_t* bits, const BITMAPINFO& info) {
+/// Loads the first scan lines of a picture. Lines count from the bottom of a bottom-up picture, which stays
+/// where it is; a top-down one comes up by as many rows as are asked for and missing, or down by those not
+/// asked for.
+void LoadDib(Surface& surface, const DibFormat& format, const std::uint8_t* bits, const BITMAPINFO& info,
+             int lines) {
     const auto palette = ReadPalette(info);
-    const int width = std::min(format.width, surface.Width()),
-              height = std::min(format.height, surface.Height());
-    for (int y = 0; y < height; ++y) {
-        const std::uint8_t* source = bits + format.RowBytes() * static_cast<std::size_t>(format.RowIndex(y));
+    const int width = std::min(format.width, surface.Width()), unasked = format.height - lines;
+    const int first = format.topDown ? 0 : std::max(0, unasked);
+    const int last = format.topDown ? std::min(lines, format.height) : format.height;
+    for (int line = first; line < last; ++line) {
+        const int y = format.topDown ? line + unasked : line;
+        if (y < 0 || y >= surface.Height()) continue;
+        const std::uint8_t* source =
+            bits + format.RowBytes() * static_cast<std::size_t>(format.RowIndex(line));
         std::uint32_t* row = surface.Row32(y);
         for (int x = 0; x < width; ++x) row[x] = ReadDibPixel(source, x, format.bitsPerPixel, palette.data());
     }
 }
 
-void StoreRow(const Surface& surface, const std::uint32_t* pixels, std::uint8_t* out,
-              const DibFormat& format) {
+/// One row of the picture; what the bitmap lacks is black.
+void StoreRow(Surface& surface, int y, std::uint8_t* out, const DibFormat& format) {
+    std::memset(out, 0, format.RowBytes());
+    if (y < 0 || y >= surface.Height()) return;
+    const std::uint32_t* pixels = surface.Row32(y);
     const int width = std::min(format.width, surface.Width());
     if (format.bitsPerPixel == 32) return void(std::memcpy(out, pixels, static_cast<std::size_t>(width) * 4));
     for (int x = 0; x < width; ++x, out += 3)
@@ -66,7 +77,7 @@ HBITMAP CreateDIBitmap(HDC hdc, const BITMAPINFOHEADER* pHeader, DWORD dwInit, c
     const HBITMAP hBitmap = CreateBitmap(wanted->width, wanted->height, 1, hdc ? 32 : 1, nullptr);
     const auto given = pInfo ? ReadDibHeader(pInfo->bmiHeader) : std::nullopt;
     if (hBitmap && (dwInit & CBM_INIT) && pBits && given)
-        LoadDib(*SurfaceOf(hBitmap), *given, static_cast<const std::uint8_t*>(pBits), *pInfo);
+        LoadDib(*SurfaceOf(hBitmap), *given, static_cast<const std::uint8_t*>(pBits), *pInfo, wanted->height);
     return hBitmap;
 }
 
@@ -96,15 +107,18 @@ int GetDIBits(HDC hdc, HBITMAP hBitmap, UINT nStart, UINT nLines, LPVOID pBits, 
     if (!format || format->bitsPerPixel < 24) return 0;
     pInfo->bmiHeader.biSizeImage =
         static_cast<DWORD>(format->RowBytes() * static_cast<std::size_t>(format->height));
-    const UINT total = static_cast<UINT>(std::min(format->height, surface->Height()));
-    const UINT count = nStart >= total ? 0 : std::min(nLines, total - nStart);
-    if (!pBits) return static_cast<int>(total);
-    for (UINT i = 0; i < count; ++i) {
-        // Scan lines count from the bottom of a bottom-up picture, from the top of a top-down one.
-        const int line = static_cast<int>(nStart + i);
-        const int y = format->topDown ? line : surface->Height() - 1 - line;
-        StoreRow(*surface, surface->Row32(y), static_cast<std::uint8_t*>(pBits) + format->RowBytes() * i,
-                 *format);
+    if (!pBits) return std::min(format->height, surface->Height());
+    // Scan lines count from the bottom of the picture, whose upper edge is the bitmap's.
+    const UINT height = static_cast<UINT>(format->height);
+    const int count = nStart >= height ? 0 : static_cast<int>(std::min(nLines, height - nStart));
+    if (count == 0) return 1;
+    const int lowest = format->height - 1 - static_cast<int>(nStart), highest = lowest - (count - 1);
+    if (format->topDown && highest > surface->Height()) return 0;  // elsewhere such rows are cleared
+    int stored = 0;
+    for (int i = 0; i < count; ++i) {
+        const int y = format->topDown ? highest + i : lowest - i;
+        StoreRow(*surface, y, static_cast<std::uint8_t*>(pBits) + format->RowBytes() * i, *format);
+        stored += y < surface->Height();
     }
-    return static_cast<int>(count);
+    return stored;
 }

@@ -7,16 +7,22 @@ using namespace tavlon::win32;
 
 namespace {
 
-/// Callers may pass a system colour index plus one in place of a brush.
-const BrushObject* BrushOf(HBRUSH hBrush) {
-    if (const auto* brush = ObjectAs<BrushObject>(hBrush)) return brush;
+/// Callers of FillRect may pass a system colour index plus one in place of a brush.
+HBRUSH ResolvedBrush(HBRUSH hBrush) {
     const auto value = reinterpret_cast<ULONG_PTR>(hBrush);
-    return value >= 1 && value <= 31 ? ObjectAs<BrushObject>(GetSysColorBrush(static_cast<int>(value) - 1))
-                                     : nullptr;
+    return value >= 1 && value <= 31 ? GetSysColorBrush(static_cast<int>(value) - 1) : hBrush;
 }
 
-void FillSurfaceRect(DeviceContext& dc, const RECT& rect, const BrushObject& brush) {
-    if (brush.style != BS_NULL) FillDeviceRect(dc, rect, brush.colour);
+/// What is no brush leaves the selected brush in force.
+const BrushObject* BrushOrSelected(const DeviceContext& dc, HBRUSH hBrush) {
+    const auto* brush = ObjectAs<BrushObject>(hBrush);
+    return brush ? brush : ObjectAs<BrushObject>(dc.state.brush);
+}
+
+void FillSurfaceRect(DeviceContext& dc, const RECT& rect, const BrushObject* brush) {
+    if (!brush || brush->style == BS_NULL || !MayDraw(dc, rect)) return;
+    Painter(dc, BrushStampOf(dc, brush->colour, R2_COPYPEN - 1)).Rect(rect);
+    NoteDamage(dc, rect);
 }
 
 BOOL PatternFill(DeviceContext& dc, const RECT& rect, DWORD dwRop) {
@@ -24,7 +30,7 @@ BOOL PatternFill(DeviceContext& dc, const RECT& rect, DWORD dwRop) {
     if (!brush) return FALSE;
     const unsigned table = PatternTable(dwRop);
     if (brush->style == BS_NULL && UsesPattern(dwRop)) return TRUE;
-    const Stamp stamp = MakeStamp(table, PixelOf(dc, brush->colour));
+    const Stamp stamp = BrushStampOf(dc, brush->colour, table);
     if (!MayDraw(dc, rect)) return TRUE;
     Painter(dc, stamp).Rect(rect);
     NoteDamage(dc, rect);
@@ -41,17 +47,17 @@ BOOL PatBlt(HDC hdc, int x, int y, int cx, int cy, DWORD dwRop) {
 }
 
 int FillRect(HDC hdc, const RECT* pRect, HBRUSH hBrush) {
-    DeviceContext* dc = DcOf(hdc);
-    const BrushObject* brush = dc ? BrushOf(hBrush) : nullptr;
-    if (!brush || !pRect) return 0;
-    FillSurfaceRect(*dc, Ordered(ToSurface(*dc, *pRect)), *brush);
-    return 1;
+    if (!pRect) return 0;
+    if (DeviceContext* dc = DcOf(hdc))
+        FillSurfaceRect(*dc, FromSignedEdges(ToSurface(*dc, *pRect)),
+                        BrushOrSelected(*dc, ResolvedBrush(hBrush)));
+    return 1;  // whatever was given
 }
 
 int FrameRect(HDC hdc, const RECT* pRect, HBRUSH hBrush) {
     DeviceContext* dc = DcOf(hdc);
-    const BrushObject* brush = dc ? BrushOf(hBrush) : nullptr;
-    if (!brush || !pRect || IsEmpty(*pRect)) return 0;
+    if (!dc || !ObjectOf(hBrush) || !pRect || IsEmpty(*pRect)) return 0;
+    const BrushObject* brush = BrushOrSelected(*dc, hBrush);
     const RECT whole = ToSurface(*dc, *pRect);
     const RECT inner{Saturate(std::int64_t{whole.left} + 1), Saturate(std::int64_t{whole.top} + 1),
                      Saturate(std::int64_t{whole.right} - 1), Saturate(std::int64_t{whole.bottom} - 1)};
@@ -59,14 +65,14 @@ int FrameRect(HDC hdc, const RECT* pRect, HBRUSH hBrush) {
                              RECT{inner.right, whole.top, whole.right, whole.bottom},
                              RECT{whole.left, whole.top, whole.right, inner.top},
                              RECT{whole.left, inner.bottom, whole.right, whole.bottom}})
-        FillSurfaceRect(*dc, side, *brush);
+        FillSurfaceRect(*dc, side, brush);
     return 1;
 }
 
 BOOL InvertRect(HDC hdc, const RECT* pRect) {
     if (!pRect) return FALSE;
     DeviceContext* dc = DcOf(hdc);
-    return dc && PatternFill(*dc, Ordered(ToSurface(*dc, *pRect)), DSTINVERT);
+    return dc && PatternFill(*dc, FromSignedEdges(ToSurface(*dc, *pRect)), DSTINVERT);
 }
 
 BOOL FillRgn(HDC hdc, HRGN hRgn, HBRUSH hBrush) {

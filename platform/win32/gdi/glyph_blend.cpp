@@ -5,26 +5,46 @@ namespace tavlon::win32 {
 
 namespace {
 
-std::uint32_t MixChannel(std::uint32_t paper, std::uint32_t ink, unsigned shift, unsigned coverage) {
-    const std::uint32_t a = paper >> shift & 0xff, b = ink >> shift & 0xff;
-    return (a * (255 - coverage) + b * coverage + 127) / 255 << shift;
+constexpr unsigned kLevels = 16;
+constexpr unsigned kFaintest = 2;  ///< Less leaves the paper as it is.
+
+/// How light white ink on black paper is at each level of coverage, so that a step looks like every other.
+constexpr std::uint32_t kLightness[kLevels + 1] = {0,   77,  104, 124, 140, 154, 167, 178, 189,
+                                                   199, 208, 217, 225, 233, 240, 248, 255};
+
+unsigned LevelOf(unsigned coverage) { return coverage * (kLevels + 1) >> 8; }
+
+/// Between paper and ink at the place where the level stands between the ink and the far end of the scale on
+/// the paper's side: black under light ink, white under dark ink.
+std::uint32_t MixChannel(std::uint32_t paper, std::uint32_t ink, unsigned level) {
+    if (paper < ink) {
+        const std::uint32_t rest = ink - ink * kLightness[level] / 255;
+        return ink - (ink - paper) * rest / ink;
+    }
+    if (paper == ink) return ink;
+    const std::uint32_t scale = 255 - ink, rest = scale * kLightness[kLevels - level] / 255;
+    return ink + (paper - ink) * rest / scale;
+}
+
+std::uint32_t MixPixel(std::uint32_t paper, std::uint32_t ink, unsigned level) {
+    std::uint32_t mixed = 0;
+    for (unsigned shift = 0; shift < 24; shift += 8)
+        mixed |= MixChannel(paper >> shift & 0xff, ink >> shift & 0xff, level) << shift;
+    return mixed;
 }
 
 void BlendPixel(std::uint32_t& pixel, std::uint32_t ink, unsigned coverage) {
-    if (coverage == 0) return;
-    pixel = coverage == 255 ? ink
-                            : MixChannel(pixel, ink, 0, coverage) | MixChannel(pixel, ink, 8, coverage) |
-                                  MixChannel(pixel, ink, 16, coverage);
+    const unsigned level = LevelOf(coverage);
+    if (level < kFaintest) return;
+    pixel = level == kLevels ? ink : MixPixel(pixel, ink, level);
 }
 
 /// Part of a glyph, in surface pixels; the coverage of its first pixel is at `coverage`.
 void BlendBox(Surface& surface, const RECT& box, const std::uint8_t* coverage, int pitch, std::uint32_t ink) {
-    const bool mono = surface.BitsPerPixel() == 1;
     for (int y = box.top; y < box.bottom; ++y, coverage += pitch) {
         std::uint32_t* row = surface.Row32(y);
         for (int x = box.left; x < box.right; ++x) {
-            const unsigned value = coverage[x - box.left];
-            BlendPixel(row[x], ink, mono ? (value >= 128 ? 255u : 0u) : value);
+            BlendPixel(row[x], ink, coverage[x - box.left]);
         }
     }
 }

@@ -14,6 +14,8 @@ std::vector<POINT> SurfacePoints(const DeviceContext& dc, std::span<const POINT>
     return mapped;
 }
 
+namespace {
+
 void FillPolygon(DeviceContext& dc, std::span<const POINT> points) {
     const auto stamp = BrushStamp(dc);
     if (!stamp || points.size() < 3) return;
@@ -26,6 +28,21 @@ void FillPolygon(DeviceContext& dc, std::span<const POINT> points) {
                    y + 1};
     });
     NoteDamage(dc, touched);
+}
+
+void DrawWithWidePen(DeviceContext& dc, std::span<const POINT> points) {
+    RegionBuilder inside;
+    if (BrushStamp(dc)) ScanPolygon(ClipBounds(dc), points, dc.state.polyFillMode, inside.Sink());
+    PaintWithWidePen(dc, inside.Build(), points);
+}
+
+}  // namespace
+
+void DrawPolygon(DeviceContext& dc, std::span<const POINT> points) {
+    const PenObject* pen = VisiblePen(dc);
+    if (pen && pen->width > 1) return DrawWithWidePen(dc, points);
+    FillPolygon(dc, points);
+    StrokeClosed(dc, points);
 }
 
 }  // namespace tavlon::win32
@@ -53,7 +70,6 @@ BOOL Polygon(HDC hdc, const POINT* pPoints, int nCount) {
     DeviceContext* dc = DcOf(hdc);
     if (!dc || !pPoints || nCount < 2) return FALSE;
     const auto points = SurfacePoints(*dc, {pPoints, static_cast<std::size_t>(nCount)});
-    FillPolygon(*dc, points);
-    StrokeClosed(*dc, points);
+    DrawPolygon(*dc, points);
     return TRUE;
 }

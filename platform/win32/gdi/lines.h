@@ -10,7 +10,7 @@ namespace tavlon::win32 {
 
 std::vector<POINT> SurfacePoints(const DeviceContext& dc, std::span<const POINT> points);
 
-/// Fills the inside of a polygon (surface pixels) with the selected brush.
-void FillPolygon(DeviceContext& dc, std::span<const POINT> points);
+/// Draws a polygon (surface pixels): its inside with the selected brush, its outline with the selected pen.
+void DrawPolygon(DeviceContext& dc, std::span<const POINT> points);
 
 }  // namespace tavlon::win32

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "gdi/colour.h"
 #include "gdi/objects.h"
 
 using namespace tavlon::win32;
@@ -11,8 +12,8 @@ namespace {
 template <class Record>
 int CopyRecord(const Record& record, int cbBuffer, void* pBuffer) {
     if (!pBuffer) return static_cast<int>(sizeof record);
-    if (cbBuffer <= 0) return 0;
-    const std::size_t size = std::min(sizeof record, static_cast<std::size_t>(cbBuffer));
+    // A negative size counts as a huge one.
+    const std::size_t size = std::min<std::size_t>(sizeof record, static_cast<unsigned>(cbBuffer));
     std::memcpy(pBuffer, &record, size);
     return static_cast<int>(size);
 }
@@ -21,9 +22,15 @@ struct InfoWriter {
     int cbBuffer;
     void* pBuffer;
 
+    /// Of some records all is wanted or nothing.
+    template <class Record>
+    bool Fits(const Record& record) const {
+        return !pBuffer || static_cast<unsigned>(cbBuffer) >= sizeof record;
+    }
+
     int operator()(const PenObject& pen) const {
         LOGPEN record{static_cast<UINT>(pen.style), {pen.width, 0}, pen.colour};
-        if (pBuffer && cbBuffer < static_cast<int>(sizeof record)) return 0;  // all of a pen or nothing
+        if (!Fits(record)) return 0;
         return CopyRecord(record, cbBuffer, pBuffer);
     }
     int operator()(const BrushObject& brush) const {
@@ -39,12 +46,12 @@ struct InfoWriter {
         record.bmBitsPixel = static_cast<WORD>(surface.BitsPerPixel());
         record.bmWidthBytes = (record.bmWidth * record.bmBitsPixel + 15) / 16 * 2;
         record.bmBits = surface.SectionBits();
-        if (pBuffer && cbBuffer < static_cast<int>(sizeof record)) return 0;
+        if (!Fits(record)) return 0;
         return CopyRecord(record, cbBuffer, pBuffer);
     }
     int operator()(const Region&) const { return 0; }
     int operator()(const PaletteObject&) const {
-        const WORD entries = 0;
+        const WORD entries = kPaletteEntries;
         return CopyRecord(entries, cbBuffer, pBuffer);
     }
 };

@@ -26,7 +26,7 @@ struct BitmapObject {
     HDC selectedInto = nullptr;  ///< A bitmap is in one memory device context at a time.
 };
 
-struct PaletteObject {};  ///< Every surface is true colour: the one palette has nothing in it.
+struct PaletteObject {};  ///< There is one palette, which nothing can change.
 
 struct GdiObject {
     std::variant<PenObject, BrushObject, LOGFONTA, BitmapObject, Region, PaletteObject> data;

@@ -35,7 +35,7 @@ public:
     ThinPen(DeviceContext& dc, const PenObject& pen)
         : m_painter(dc, PenStampOf(dc, pen.colour)),
           m_ink(PenStampOf(dc, pen.colour)),
-          m_gapInk(PenStampOf(dc, dc.state.bkColor)),
+          m_gapInk(GapStampOf(dc, pen.colour)),
           m_pattern(DashPattern(pen.style)),
           m_gapsDrawn(dc.state.bkMode == OPAQUE) {
         for (const int length : m_pattern) m_period += length;
@@ -88,15 +88,6 @@ private:
     std::int64_t m_period = 0, m_offset = 0;
 };
 
-RECT Around(std::span<const POINT> points, int margin) {
-    RECT box{points[0].x, points[0].y, points[0].x, points[0].y};
-    for (const POINT& p : points)
-        box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x),
-               std::max(box.bottom, p.y)};
-    return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
-            Saturate(std::int64_t{box.right} + margin + 1), Saturate(std::int64_t{box.bottom} + margin + 1)};
-}
-
 void Stroke(DeviceContext& dc, std::span<const POINT> points, bool closed) {
     const PenObject* pen = VisiblePen(dc);
     if (!pen || points.size() < 2) return;
@@ -126,5 +117,16 @@ std::optional<Stamp> BrushStamp(const DeviceContext& dc) {
 
 void StrokePath(DeviceContext& dc, std::span<const POINT> points) { Stroke(dc, points, false); }
 void StrokeClosed(DeviceContext& dc, std::span<const POINT> points) { Stroke(dc, points, true); }
+
+void PaintWithWidePen(DeviceContext& dc, Region inside, std::span<const POINT> outline) {
+    const PenObject* pen = VisiblePen(dc);
+    if (!pen) return;
+    const Region line = WideLine(ClipBounds(dc), outline, true, pen->width);
+    if (const auto stamp = BrushStamp(dc)) {
+        inside.Subtract(line);
+        PaintRegion(dc, inside, *stamp);
+    }
+    PaintRegion(dc, line, PenStampOf(dc, pen->colour));
+}
 
 }  // namespace tavlon::win32

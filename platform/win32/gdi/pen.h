@@ -19,4 +19,8 @@ void StrokePath(DeviceContext& dc, std::span<const POINT> points);
 /// The same, and back to the first point.
 void StrokeClosed(DeviceContext& dc, std::span<const POINT> points);
 
+/// Draws a closed shape with the selected wide pen along `outline` and the selected brush on what the pen
+/// leaves of `inside`: the two share no pixel, so that a raster operation changes each pixel once.
+void PaintWithWidePen(DeviceContext& dc, Region inside, std::span<const POINT> outline);
+
 }  // namespace tavlon::win32

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <span>
 
 namespace tavlon::win32 {
 
@@ -36,12 +37,27 @@ inline RECT FromSignedSize(int x, int y, int width, int height) {
     const std::int64_t dx = width < 0, dy = height < 0;
     return Ordered({Saturate(x + dx), Saturate(y + dy), Saturate(x + dx + width), Saturate(y + dy + height)});
 }
+/// Edges as a corner and such a size. Where they run backwards, that is a pixel beside Ordered().
+inline RECT FromSignedEdges(const RECT& rect) {
+    return FromSignedSize(rect.left, rect.top, Saturate(std::int64_t{rect.right} - rect.left),
+                          Saturate(std::int64_t{rect.bottom} - rect.top));
+}
 inline bool Inside(const RECT& rect, std::int64_t x, std::int64_t y) {
     return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
 }
 inline bool Covers(const RECT& outer, const RECT& inner) {
     return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
            inner.bottom <= outer.bottom;
+}
+
+/// The smallest rectangle that holds the points (at least one), with a margin on each side.
+inline RECT Around(std::span<const POINT> points, int margin) {
+    RECT box{points[0].x, points[0].y, points[0].x, points[0].y};
+    for (const POINT& p : points)
+        box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x),
+               std::max(box.bottom, p.y)};
+    return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
+            Saturate(std::int64_t{box.right} + margin + 1), Saturate(std::int64_t{box.bottom} + margin + 1)};
 }
 
 }  // namespace tavlon::win32

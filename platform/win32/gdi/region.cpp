@@ -1,25 +1,49 @@
 #include "gdi/region.h"
 
+#include <limits>
+
 #include "gdi/rectangle_math.h"
 
 namespace tavlon::win32 {
 
-namespace {
-constexpr RECT kReach{-kRegionReach, -kRegionReach, kRegionReach, kRegionReach};
-}
-
 void Region::Set(const RECT& rect) {
-    const RECT cut = Intersection(rect, kReach);
-    if (IsEmpty(cut)) return Clear();
-    pixman_box32_t box{cut.left, cut.top, cut.right, cut.bottom};
+    if (IsEmpty(rect)) return Clear();
+    pixman_box32_t box{rect.left, rect.top, rect.right, rect.bottom};
     pixman_region32_reset(&m_region, &box);
 }
 
+bool Region::Combine(const Region& other, int mode) {
+    switch (mode) {
+        case RGN_AND:
+            Intersect(other);
+            return true;
+        case RGN_OR:
+            Unite(other);
+            return true;
+        case RGN_XOR: {
+            Region rest = other;
+            rest.Subtract(*this);
+            Subtract(other);
+            Unite(rest);
+            return true;
+        }
+        case RGN_DIFF:
+            Subtract(other);
+            return true;
+        case RGN_COPY:
+            *this = other;
+            return true;
+        default:
+            return false;
+    }
+}
+
 void Region::Translate(int dx, int dy) {
-    constexpr int kFarthest = 2 * kRegionReach;  // everything is out of reach by then
-    pixman_region32_translate(&m_region, std::clamp(dx, -kFarthest, kFarthest),
-                              std::clamp(dy, -kFarthest, kFarthest));
-    if (!Covers(kReach, Bounds())) Intersect(Region(kReach));
+    // The library must not be brought to overflow.
+    constexpr int kLeast = std::numeric_limits<int>::min(), kMost = std::numeric_limits<int>::max();
+    const RECT staying = Moved({kLeast, kLeast, kMost, kMost}, -std::int64_t{dx}, -std::int64_t{dy});
+    if (!Covers(staying, Bounds())) Intersect(Region(staying));
+    pixman_region32_translate(&m_region, dx, dy);
 }
 
 RECT Region::Bounds() const {

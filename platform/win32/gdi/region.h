@@ -6,9 +6,6 @@
 
 namespace tavlon::win32 {
 
-/// Coordinates of regions are kept within this distance of the origin, so that moving one cannot overflow.
-constexpr int kRegionReach = 1 << 27;
-
 class Region {
 public:
     Region() { pixman_region32_init(&m_region); }
@@ -21,7 +18,7 @@ public:
     }
     ~Region() { pixman_region32_fini(&m_region); }
 
-    /// Becomes the rectangle, cut to the reach of regions; empty when the rectangle has no area.
+    /// Becomes the rectangle; empty when it has no area.
     void Set(const RECT& rect);
     void Clear() { pixman_region32_clear(&m_region); }
     void Copy(const pixman_region32_t& region) { pixman_region32_copy(&m_region, Mutable(region)); }
@@ -44,7 +41,9 @@ public:
     void Subtract(const Region& other) {
         pixman_region32_subtract(&m_region, &m_region, Mutable(other.m_region));
     }
-    void Translate(int dx, int dy);  ///< What leaves the reach of coordinates is lost.
+    /// Combines by RGN_ mode, this region being the first; false, unchanged, when there is no such mode.
+    bool Combine(const Region& other, int mode);
+    void Translate(int dx, int dy);  ///< What leaves the range of coordinates is lost.
 
     /// NULLREGION, SIMPLEREGION or COMPLEXREGION.
     int Complexity() const;

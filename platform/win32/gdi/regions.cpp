@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "gdi/objects.h"
 #include "gdi/rectangle_math.h"
 #include "gdi/scan_ellipse.h"
@@ -25,18 +27,13 @@ Region* RegionFor(HRGN hRgn) {
     return region;
 }
 
-Region Combined(const Region& a, const Region& b, int mode) {
-    Region result = a;
-    if (mode == RGN_AND) result.Intersect(b);
-    if (mode == RGN_OR) result.Unite(b);
-    if (mode == RGN_DIFF) result.Subtract(b);
-    if (mode == RGN_XOR) {
-        Region rest = b;
-        rest.Subtract(a);
-        result.Subtract(b);
-        result.Unite(rest);
-    }
-    return result;
+/// Whether a rectangle runs through the inside of the region, if only as a line without area.
+bool Meets(const Region& region, const RECT& rect) {
+    int count = 0;
+    const pixman_box32_t* boxes = region.Boxes(count);
+    return std::any_of(boxes, boxes + count, [&](const pixman_box32_t& box) {
+        return rect.left < box.x2 && rect.right > box.x1 && rect.top < box.y2 && rect.bottom > box.y1;
+    });
 }
 
 }  // namespace
@@ -51,11 +48,11 @@ HRGN CreateRectRgnIndirect(const RECT* pRect) {
 
 HRGN CreateEllipticRgn(int nLeft, int nTop, int nRight, int nBottom) {
     RECT box = Ordered({nLeft, nTop, nRight, nBottom});
+    box.right = Saturate(std::int64_t{box.right} - 1);
+    box.bottom = Saturate(std::int64_t{box.bottom} - 1);
+    box = Ordered(box);  // without area, it runs one pixel backwards from the edge
     RegionBuilder builder;
-    if (!IsEmpty(box)) {
-        --box.right, --box.bottom;
-        ScanEllipse(kShapeBounds, box, builder.Sink());
-    }
+    ScanEllipse(kShapeBounds, box, builder.Sink());
     return MakeObject<HRGN>(builder.Build());
 }
 
@@ -64,7 +61,7 @@ HRGN CreateEllipticRgnIndirect(const RECT* pRect) {
 }
 
 HRGN CreatePolygonRgn(const POINT* pPoints, int nCount, int nMode) {
-    if (!pPoints || nCount < 1) {
+    if (!pPoints || nCount < 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
@@ -83,14 +80,10 @@ BOOL SetRectRgn(HRGN hRgn, int nLeft, int nTop, int nRight, int nBottom) {
 int CombineRgn(HRGN hDst, HRGN hSrc1, HRGN hSrc2, int nMode) {
     Region* target = RegionFor(hDst);
     const Region* first = target ? RegionFor(hSrc1) : nullptr;
-    if (!first || nMode < RGN_AND || nMode > RGN_COPY) return ERROR;
-    if (nMode == RGN_COPY) {
-        *target = *first;
-        return target->Complexity();
-    }
-    const Region* second = RegionFor(hSrc2);
-    if (!second) return ERROR;
-    *target = Combined(*first, *second, nMode);
+    const Region* second = first && nMode != RGN_COPY ? RegionFor(hSrc2) : first;
+    Region result = first ? *first : Region();
+    if (!second || !result.Combine(*second, nMode)) return ERROR;
+    *target = result;
     return target->Complexity();
 }
 
@@ -114,7 +107,7 @@ BOOL PtInRegion(HRGN hRgn, int x, int y) {
 
 BOOL RectInRegion(HRGN hRgn, const RECT* pRect) {
     const Region* region = RegionFor(hRgn);
-    return region && pRect && region->Touches(Ordered(*pRect));
+    return region && pRect && Meets(*region, Ordered(*pRect));
 }
 
 int GetRgnBox(HRGN hRgn, LPRECT pRect) {

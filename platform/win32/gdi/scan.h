@@ -37,14 +37,12 @@ void ScanPolygon(const RECT& bounds, std::span<const POINT> points, int mode, co
 class RegionBuilder {
 public:
     void Span(int y, int left, int right) {
-        left = std::max(left, -kRegionReach);
-        right = std::min(right, kRegionReach);
         if (left < right) m_boxes.push_back({left, y, right, y + 1});
     }
     SpanSink Sink() {
         return [this](int y, int left, int right) { Span(y, left, right); };
     }
-    Region Build() const;
+    Region Build();  ///< What was collected; the builder is empty then.
 
 private:
     std::vector<pixman_box32_t> m_boxes;

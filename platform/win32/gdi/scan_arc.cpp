@@ -22,7 +22,8 @@ struct ChainPoint {
     Quadrant quadrant;
 };
 
-/// A whole outline, counter-clockwise from the middle of the right edge.
+/// A whole outline, counter-clockwise from the middle of the right edge. A pixel that two quadrants share is
+/// there twice, once for each.
 class Chain {
 public:
     Chain(std::int64_t width, std::int64_t height) : m_width(width), m_height(height) {
@@ -33,7 +34,8 @@ public:
 
     const std::vector<ChainPoint>& Points() const { return m_points; }
 
-    /// The first point that the ray towards (dx, dy) from the centre meets or leaves behind.
+    /// The first point that the ray towards (dx, dy) from the centre meets or leaves behind; the number of
+    /// points when there is none.
     std::size_t Find(std::int64_t dx, std::int64_t dy) const {
         const bool right = dx >= 0, bottom = dy > 0;
         const Quadrant quadrant =
@@ -42,7 +44,7 @@ public:
             return point.quadrant > quadrant || (point.quadrant == quadrant && Passed(point, dx, dy));
         };
         const auto found = std::find_if(m_points.begin(), m_points.end(), reached);
-        return found == m_points.end() ? 0 : static_cast<std::size_t>(found - m_points.begin());
+        return static_cast<std::size_t>(found - m_points.begin());
     }
 
 private:
@@ -64,10 +66,8 @@ private:
     void Append(const std::vector<POINT>& quarter, Quadrant quadrant) {
         const bool backwards = quadrant == kTopLeft || quadrant == kBottomRight;
         for (std::size_t i = 0; i < quarter.size(); ++i) {
-            const POINT p = Mirrored(quarter[backwards ? quarter.size() - 1 - i : i], quadrant);
-            const bool repeated =
-                !m_points.empty() && m_points.back().pixel.x == p.x && m_points.back().pixel.y == p.y;
-            if (!repeated) m_points.push_back({p, quadrant});
+            const POINT& p = quarter[backwards ? quarter.size() - 1 - i : i];
+            m_points.push_back({Mirrored(p, quadrant), quadrant});
         }
     }
 

@@ -58,7 +58,7 @@ EllipseRows::EllipseRows(std::int64_t width, std::int64_t height, std::int64_t f
 void EllipseRows::Walk() {
     const int middle = static_cast<int>((m_width - 1) / 2);
     m_rows.assign(static_cast<std::size_t>((m_height + 1) / 2), kNoPixels);
-    if (m_width <= 2 || m_height <= 2) return m_rows.assign(m_rows.size(), {0, middle});
+    if (m_width <= 1 || m_height <= 1) return m_rows.assign(m_rows.size(), {0, middle});
     for (const POINT& pixel : EllipseQuadrant(static_cast<int>(m_width), static_cast<int>(m_height))) {
         OutlineRow& row = m_rows[static_cast<std::size_t>(pixel.y)];
         if (!row.Any()) row.first = pixel.x;
@@ -103,11 +103,17 @@ void ScanEllipse(const RECT& bounds, const RECT& box, const SpanSink& sink) {
 }
 
 void ScanEllipseOutline(const RECT& bounds, const RECT& box, const SpanSink& sink) {
+    const auto sides = [&](int y, int first, int last) {
+        const int left = box.left + last + 1, right = box.right - last - 1;
+        if (left >= right) return sink(y, box.left + first, box.right - first);
+        sink(y, box.left + first, left);
+        sink(y, right, box.right - first);
+    };
     ForRows(bounds, box, [&](int y, OutlineRow row) {
-        const int left = box.left + row.last + 1, right = box.right - row.last - 1;
-        if (left >= right) return sink(y, box.left + row.first, box.right - row.first);
-        sink(y, box.left + row.first, left);
-        sink(y, right, box.right - row.first);
+        sides(y, row.first, row.last);
+        // Both halves draw the row between them, but for its outermost pixels.
+        const bool shared = std::int64_t{y} - box.top == std::int64_t{box.bottom} - 1 - y;
+        if (shared && row.first < row.last) sides(y, row.first + 1, row.last);
     });
 }
 

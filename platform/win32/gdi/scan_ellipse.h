@@ -38,7 +38,8 @@ private:
 
 /// The inside and outline of the ellipse in `box`, row by row, cut to the rows of `bounds`.
 void ScanEllipse(const RECT& bounds, const RECT& box, const SpanSink& sink);
-/// The outline alone.
+/// The outline alone; what the upper and the lower half share is passed twice, which counts under a raster
+/// operation.
 void ScanEllipseOutline(const RECT& bounds, const RECT& box, const SpanSink& sink);
 
 }  // namespace tavlon::win32

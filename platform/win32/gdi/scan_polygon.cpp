@@ -85,10 +85,31 @@ void ScanPolygon(const RECT& bounds, std::span<const POINT> points, int mode, co
     }
 }
 
-Region RegionBuilder::Build() const {
+namespace {
+
+/// Sorted, and without overlap: the region library takes such boxes much faster.
+std::vector<pixman_box32_t> Merged(std::vector<pixman_box32_t> boxes) {
+    const auto before = [](const pixman_box32_t& a, const pixman_box32_t& b) {
+        return a.y1 != b.y1 ? a.y1 < b.y1 : a.x1 < b.x1;
+    };
+    if (!std::is_sorted(boxes.begin(), boxes.end(), before)) std::sort(boxes.begin(), boxes.end(), before);
+    std::size_t kept = 0;
+    for (const pixman_box32_t& box : boxes) {
+        if (kept > 0 && boxes[kept - 1].y1 == box.y1 && box.x1 <= boxes[kept - 1].x2)
+            boxes[kept - 1].x2 = std::max(boxes[kept - 1].x2, box.x2);
+        else
+            boxes[kept++] = box;
+    }
+    boxes.resize(kept);
+    return boxes;
+}
+
+}  // namespace
+
+Region RegionBuilder::Build() {
+    const std::vector<pixman_box32_t> boxes = Merged(std::move(m_boxes));
     pixman_region32_t raw;
-    if (m_boxes.empty() ||
-        !pixman_region32_init_rects(&raw, m_boxes.data(), static_cast<int>(m_boxes.size())))
+    if (boxes.empty() || !pixman_region32_init_rects(&raw, boxes.data(), static_cast<int>(boxes.size())))
         return Region();
     Region region(raw);
     pixman_region32_fini(&raw);

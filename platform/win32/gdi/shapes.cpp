@@ -34,34 +34,67 @@ RECT ShapeBox(const DeviceContext& dc, const RECT& logical) {
     return box;
 }
 
+/// The corner pixels of a box, counter-clockwise from the top right.
+std::array<POINT, 4> Corners(const RECT& box) {
+    const int right = Saturate(std::int64_t{box.right} - 1), bottom = Saturate(std::int64_t{box.bottom} - 1);
+    return {POINT{right, box.top}, {box.left, box.top}, {box.left, bottom}, {right, bottom}};
+}
+
 /// What drawing a shape in the box can touch with the selected pen.
-RECT Reach(const DeviceContext& dc, const RECT& box) {
+RECT Reach(const DeviceContext& dc, const RECT& unordered) {
+    const RECT box = Ordered(unordered);
     const PenObject* pen = VisiblePen(dc);
     const int margin = pen ? pen->width : 0;
     return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
             Saturate(std::int64_t{box.right} + margin), Saturate(std::int64_t{box.bottom} + margin)};
 }
 
+/// Where an outline that is drawn whole starts and ends.
+POINT MiddleRight(const RECT& box) { return {box.right, ArcCentre(box).y}; }
+
+bool IsDashed(const PenObject& pen) { return pen.style >= PS_DASH && pen.style <= PS_DASHDOTDOT; }
+
 bool TooThinToCurve(const RECT& box) {
     return std::int64_t{box.right} - box.left <= 2 || std::int64_t{box.bottom} - box.top <= 2;
 }
-bool IsDot(const RECT& box) { return box.right - 1 == box.left && box.bottom - 1 == box.top; }
+
+void FillEllipse(DeviceContext& dc, const RECT& box) {
+    const auto stamp = BrushStamp(dc);
+    if (!stamp) return;
+    Painter painter(dc, *stamp);
+    ScanEllipse(painter.Bounds(), box, painter.Sink());
+}
+
+/// Dashes follow the outline around; a solid line can be drawn row by row, which is quicker.
+void DrawThinEllipse(DeviceContext& dc, const RECT& box, const PenObject& pen) {
+    if (IsDashed(pen)) return StrokeClosed(dc, ScanArc(box, MiddleRight(box), MiddleRight(box)));
+    Painter painter(dc, PenStampOf(dc, pen.colour));
+    ScanEllipseOutline(painter.Bounds(), box, painter.Sink());
+}
+
+void DrawWideEllipse(DeviceContext& dc, const RECT& box) {
+    RegionBuilder inside;
+    if (BrushStamp(dc)) ScanEllipse(ClipBounds(dc), box, inside.Sink());
+    PaintWithWidePen(dc, inside.Build(), ScanArc(box, MiddleRight(box), MiddleRight(box)));
+}
 
 }  // namespace
 
 BOOL Rectangle(HDC hdc, int nLeft, int nTop, int nRight, int nBottom) {
     DeviceContext* dc = DcOf(hdc);
     if (!dc) return FALSE;
-    const RECT box = ShapeBox(*dc, {nLeft, nTop, nRight, nBottom});
-    if (IsEmpty(box)) return TRUE;
+    const RECT logical{nLeft, nTop, nRight, nBottom};
+    if (IsEmpty(Ordered(logical))) return TRUE;
+    // A PS_INSIDEFRAME pen may leave less than nothing inside: its outline is drawn all the same.
+    const RECT box = ShapeBox(*dc, logical);
+    const std::array corners = Corners(box);
     const PenObject* pen = VisiblePen(*dc);
-    const RECT inside = pen && pen->width <= 1 ? InsideBorder(box) : box;
+    if (pen && pen->width > 1) return DrawPolygon(*dc, corners), TRUE;
+    const RECT inside = pen ? InsideBorder(box) : box;
     if (const auto stamp = BrushStamp(*dc); stamp && MayDraw(*dc, inside)) {
         Painter(*dc, *stamp).Rect(inside);
         NoteDamage(*dc, inside);
     }
-    const std::array corners = {POINT{box.right - 1, box.top}, POINT{box.left, box.top},
-                                POINT{box.left, box.bottom - 1}, POINT{box.right - 1, box.bottom - 1}};
     StrokeClosed(*dc, corners);
     return TRUE;
 }
@@ -69,20 +102,14 @@ BOOL Rectangle(HDC hdc, int nLeft, int nTop, int nRight, int nBottom) {
 BOOL Ellipse(HDC hdc, int nLeft, int nTop, int nRight, int nBottom) {
     DeviceContext* dc = DcOf(hdc);
     if (!dc) return FALSE;
+    const RECT whole = Ordered(ToSurface(*dc, RECT{nLeft, nTop, nRight, nBottom}));
     const RECT box = CurveBox(*dc, {nLeft, nTop, nRight, nBottom});
-    if (IsEmpty(box) || !MayDraw(*dc, Reach(*dc, box))) return TRUE;
-    if (TooThinToCurve(box)) return IsDot(box) || Rectangle(hdc, nLeft, nTop, nRight, nBottom);
-    if (const auto stamp = BrushStamp(*dc)) {
-        Painter painter(*dc, *stamp);
-        ScanEllipse(painter.Bounds(), box, painter.Sink());
-    }
+    if (IsEmpty(whole) || !MayDraw(*dc, Reach(*dc, box))) return TRUE;
+    if (TooThinToCurve(box)) return Rectangle(hdc, nLeft, nTop, nRight, nBottom);
     const PenObject* pen = VisiblePen(*dc);
-    if (pen && pen->width > 1) {
-        StrokeClosed(*dc, ScanArc(box, {box.right, box.top}, {box.right, box.top}));
-    } else if (pen) {
-        Painter painter(*dc, PenStampOf(*dc, pen->colour));
-        ScanEllipseOutline(painter.Bounds(), box, painter.Sink());
-    }
+    if (pen && pen->width > 1) return DrawWideEllipse(*dc, box), TRUE;
+    FillEllipse(*dc, box);
+    if (pen) DrawThinEllipse(*dc, box, *pen);
     NoteDamage(*dc, box);
     return TRUE;
 }
@@ -102,8 +129,8 @@ BOOL Pie(HDC hdc, int nLeft, int nTop, int nRight, int nBottom, int xStart, int 
     const RECT box = CurveBox(*dc, {nLeft, nTop, nRight, nBottom});
     if (IsEmpty(box) || !MayDraw(*dc, Reach(*dc, box))) return TRUE;
     std::vector<POINT> points = ScanArc(box, ToSurface(*dc, xStart, yStart), ToSurface(*dc, xEnd, yEnd));
+    if (points.empty()) return TRUE;
     points.push_back(ArcCentre(box));
-    FillPolygon(*dc, points);
-    StrokeClosed(*dc, points);
+    DrawPolygon(*dc, points);
     return TRUE;
 }

@@ -1,6 +1,7 @@
 #include "gdi/stretch.h"
 
 #include <algorithm>
+#include <cstring>
 #include <vector>
 
 #include "gdi/blit.h"
@@ -11,95 +12,110 @@ namespace tavlon::win32 {
 
 namespace {
 
-/// Source pixels [first, last] that one destination pixel shows; none when last is below first.
-struct Group {
-    int first = 0, last = -1;
-    bool Any() const { return first <= last; }
-};
-
-/// One axis of a stretch: both sides are walked from their starts in their own directions.
-struct Axis {
-    std::int64_t start, length;
-    std::int64_t sourceStart, sourceLength;
-    int direction, sourceDirection;
-
-    /// The left edge of the destination.
-    std::int64_t Low() const { return direction > 0 ? start : start - length + 1; }
-    std::int64_t SourceAt(std::int64_t step) const { return sourceStart + sourceDirection * step; }
-    std::int64_t StepAt(std::int64_t position) const { return (position - start) * direction; }
-
-    /// The last source step of those that come together at a step of the destination.
-    std::int64_t Last(std::int64_t step) const {
-        using Wide = __int128;
-        const Wide doubled = Wide{2} * length;
-        if (length >= sourceLength)
-            return std::int64_t(((Wide{2} * step + 1) * sourceLength + doubled - 1) / doubled) - 1;
-        if (length == 1) return sourceLength - 2;
-        return std::int64_t((Wide{2} * (step + 1) * sourceLength - length) / doubled);
-    }
-    std::int64_t First(std::int64_t step) const {
-        if (length >= sourceLength) return Last(step);
-        return step == 0 ? 0 : Last(step - 1) + 1;
-    }
-};
-
-Axis MakeAxis(Extent to, Extent from) {
-    return {to.start,
-            std::abs(std::int64_t{to.length}),
-            from.start,
-            std::abs(std::int64_t{from.length}),
-            to.length < 0 ? -1 : 1,
-            from.length < 0 ? -1 : 1};
+/// The run of entries that show something; the source is one piece, so there is one run.
+template <class Entry, class Shows>
+std::pair<int, int> Run(const std::vector<Entry>& entries, Shows shows) {
+    const auto first = std::find_if(entries.begin(), entries.end(), shows);
+    const auto last = std::find_if_not(first, entries.end(), shows);
+    return {static_cast<int>(first - entries.begin()), static_cast<int>(last - entries.begin())};
 }
-
-/// What each destination pixel of [first, last) shows of a source that has pixels [0, size).
-std::vector<Group> Groups(const Axis& axis, int first, int last, int size, bool merge) {
-    std::vector<Group> groups;
-    for (int i = first; i < last; ++i) {
-        const std::int64_t step = axis.StepAt(i);
-        const std::int64_t to = axis.SourceAt(axis.Last(step));
-        const std::int64_t from = merge ? axis.SourceAt(axis.First(step)) : to;
-        groups.push_back({static_cast<int>(std::clamp<std::int64_t>(std::min(from, to), 0, size)),
-                          static_cast<int>(std::clamp<std::int64_t>(std::max(from, to), -1, size - 1))});
-    }
-    return groups;
-}
-
-/// The run of groups that show something; the source is one piece, so there is one run.
 std::pair<int, int> Known(const std::vector<Group>& groups) {
-    const auto first = std::find_if(groups.begin(), groups.end(), [](const Group& g) { return g.Any(); });
-    const auto last = std::find_if_not(first, groups.end(), [](const Group& g) { return g.Any(); });
-    return {static_cast<int>(first - groups.begin()), static_cast<int>(last - groups.begin())};
+    return Run(groups, [](const Group& group) { return group.Any(); });
+}
+std::pair<int, int> Known(const std::vector<Blend>& blends) {
+    return Run(blends, [](const Blend& blend) { return blend.known; });
 }
 
-std::uint32_t Merged(Surface& source, const Group& column, const Group& row) {
-    std::uint32_t pixel = kWhitePixel;
-    for (int y = row.first; y <= row.last; ++y)
-        for (int x = column.first; x <= column.last; ++x) pixel &= source.Row32(y)[x];
+/// The four neighbours by their nearness, each part of the colour for itself.
+std::uint32_t Mixed(Surface& source, const Blend& column, const Blend& row) {
+    const std::uint32_t *upper = source.Row32(row.first), *lower = source.Row32(row.second);
+    std::uint32_t pixel = 0;
+    for (int shift = 0; shift < 24; shift += 8) {
+        const auto part = [&](const std::uint32_t* pixels) {
+            const int one = pixels[column.first] >> shift & 0xff,
+                      other = pixels[column.second] >> shift & 0xff;
+            return one + (other - one) * column.share;
+        };
+        const double above = part(upper), mixed = above + (part(lower) - above) * row.share;
+        pixel |= static_cast<std::uint32_t>(mixed + 0.5) << shift;
+    }
     return pixel;
+}
+
+std::uint32_t Merged(Surface& source, const Group& column, const Group& row, bool dark) {
+    std::uint32_t pixel = dark ? ~0u : 0;
+    for (int y = row.first; y <= row.last; ++y)
+        for (int x = column.first; x <= column.last; ++x)
+            pixel = dark ? pixel & source.Row32(y)[x] : pixel | source.Row32(y)[x];
+    return pixel;
+}
+
+RECT Rectangle(Range x, Range y) {
+    return {Saturate(x.first), Saturate(y.first), Saturate(x.last), Saturate(y.last)};
+}
+
+/// Whether a stretch is worth a try: its part of the source that exists seems to reach the clip.
+bool SeemsVisible(DeviceContext& dst, const Surface& source, const Stretch& s) {
+    const StretchAxis x(s.toX, s.fromX, source.Width()), y(s.toY, s.fromY, source.Height());
+    const RECT target = FromSignedSize(s.toX.start, s.toY.start, s.toX.length, s.toY.length);
+    const RECT part = FromSignedSize(s.fromX.start, s.fromY.start, s.fromX.length, s.fromY.length);
+    return !IsEmpty(Intersection(part, source.Bounds())) &&
+           MayDraw(dst, Intersection(target, Rectangle(x.Estimate(), y.Estimate())));
 }
 
 }  // namespace
 
-Stretched StretchPixels(Surface& source, Extent fromX, Extent fromY, Extent toX, Extent toY, const RECT& clip,
-                        bool merge) {
-    const Axis x = MakeAxis(toX, fromX), y = MakeAxis(toY, fromY);
-    const RECT whole{Saturate(x.Low()), Saturate(y.Low()), Saturate(x.Low() + x.length),
-                     Saturate(y.Low() + y.length)};
-    const RECT place = Intersection(whole, clip);
-    if (IsEmpty(place)) return {};
-    const auto columns = Groups(x, place.left, place.right, source.Width(), merge);
-    const auto rows = Groups(y, place.top, place.bottom, source.Height(), merge);
+namespace {
+
+/// Fills the known part of `made`; `pixel` gives one of two entries.
+template <class Entries, class Pixel>
+Stretched Fill(Surface& source, const RECT& place, const Entries& columns, const Entries& rows, Pixel pixel) {
     const auto [left, right] = Known(columns);
     const auto [top, bottom] = Known(rows);
-    Stretched made{Surface::Create(place.right - place.left, place.bottom - place.top, source.BitsPerPixel()),
+    const int width = place.right - place.left;
+    Stretched made{Surface::Create(width, place.bottom - place.top, source.BitsPerPixel()),
                    place,
                    {left, top, right, bottom}};
     if (!made.pixels) return {};
-    for (int row = top; row < bottom; ++row)
-        for (int column = left; column < right; ++column)
-            made.pixels->Row32(row)[column] = Merged(source, columns[column], rows[row]);
+    for (int row = top; row < bottom; ++row) {
+        std::uint32_t* out = made.pixels->Row32(row);
+        if (row > top && rows[row] == rows[row - 1])
+            std::memcpy(out, made.pixels->Row32(row - 1), static_cast<std::size_t>(width) * 4);
+        else
+            for (int column = left; column < right; ++column) out[column] = pixel(columns[column], rows[row]);
+    }
     return made;
+}
+
+}  // namespace
+
+Stretched StretchPixels(Surface& source, const Stretch& stretch, const RECT& clip, int mode) {
+    const StretchAxis x(stretch.toX, stretch.fromX, source.Width());
+    const StretchAxis y(stretch.toY, stretch.fromY, source.Height());
+    const RECT place = Intersection(Rectangle(x.Changing(), y.Changing()), clip);
+    if (IsEmpty(place)) return {};
+    if (mode == HALFTONE)
+        return Fill(source, place, x.Blends(place.left, place.right), y.Blends(place.top, place.bottom),
+                    [&](const Blend& column, const Blend& row) { return Mixed(source, column, row); });
+    const bool one = mode == COLORONCOLOR, dark = mode != WHITEONBLACK;
+    return Fill(source, place, x.Groups(place.left, place.right, one ? Pick::kLast : Pick::kAll),
+                y.Groups(place.top, place.bottom, one ? Pick::kFirst : Pick::kAll),
+                [&](const Group& column, const Group& row) { return Merged(source, column, row, dark); });
+}
+
+bool TransferStretched(DeviceContext& dst, DeviceContext& src, const Stretch& stretch, int mode, DWORD rop) {
+    if (!SeemsVisible(dst, *src.surface, stretch)) return true;
+    // The depth is changed first: what is merged are the pixels of the destination.
+    const bool converted = src.surface->BitsPerPixel() != dst.surface->BitsPerPixel();
+    const SurfaceRef source = converted ? ConvertedSource(dst, src, src.surface->Bounds()) : src.surface;
+    if (!source) return false;
+    const Stretched made = StretchPixels(*source, stretch, ClipBounds(dst), mode);
+    if (!made.pixels || IsEmpty(made.known)) return false;
+    DeviceContext copy = src;
+    copy.surface = made.pixels;
+    copy.visible.Set(made.known);
+    Transfer(dst, made.place, copy, {0, 0}, rop);
+    return true;
 }
 
 }  // namespace tavlon::win32
@@ -118,14 +134,6 @@ BOOL StretchBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, 
         Transfer(*dst, FromSize(to.x, to.y, cx, cy), *src, from, dwRop);
         return TRUE;
     }
-    const int mode = dst->state.stretchMode;
-    const Stretched made =
-        StretchPixels(*src->surface, {from.x, cxSrc}, {from.y, cySrc}, {to.x, cx}, {to.y, cy},
-                      ClipBounds(*dst), mode == BLACKONWHITE || mode == HALFTONE);
-    if (!made.pixels) return TRUE;
-    DeviceContext copy = *src;  // the stretched pixels, with the source's colours for a change of depth
-    copy.surface = made.pixels;
-    copy.visible.Set(made.known);
-    Transfer(*dst, made.place, copy, {0, 0}, dwRop);
-    return TRUE;
+    const Stretch stretch{{to.x, cx}, {to.y, cy}, {from.x, cxSrc}, {from.y, cySrc}};
+    return TransferStretched(*dst, *src, stretch, dst->state.stretchMode, dwRop);
 }

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "gdi/device_context.h"
+#include "gdi/stretch_axis.h"
 
 namespace tavlon::win32 {
 
-/// A signed extent on one axis: `length` may be negative and then counts from `start` downwards.
-struct Extent {
-    int start, length;
+/// Two rectangles of surface pixels, whose sizes may be negative.
+struct Stretch {
+    Extent toX, toY, fromX, fromY;
 };
 
 /// What a stretch made: the pixels of `place` (destination surface), of which only `known` (counted from its
@@ -18,9 +19,13 @@ struct Stretched {
     RECT known{0, 0, 0, 0};
 };
 
-/// Brings a rectangle of `source` to the destination's size, as far as it is inside `clip`. Pixels that fall
-/// together are combined with AND when `merge` is set; else the last one stays.
-Stretched StretchPixels(Surface& source, Extent fromX, Extent fromY, Extent toX, Extent toY, const RECT& clip,
-                        bool merge);
+/// Brings a rectangle of `source` to the destination's size, as far as it is inside `clip`. Of pixels that
+/// fall together COLORONCOLOR shows the first row's last one, in the directions of the stretch; WHITEONBLACK
+/// combines them with OR, the other modes with AND.
+Stretched StretchPixels(Surface& source, const Stretch& stretch, const RECT& clip, int mode);
+
+/// Stretches into a device context. False when nothing is drawn although it looked as if there were
+/// something.
+bool TransferStretched(DeviceContext& dst, DeviceContext& src, const Stretch& stretch, int mode, DWORD rop);
 
 }  // namespace tavlon::win32

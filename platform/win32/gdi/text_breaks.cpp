@@ -1,28 +1,97 @@
 #include "gdi/text_breaks.h"
 
+#include <algorithm>
+#include <initializer_list>
 #include <string_view>
 
 namespace tavlon::win32 {
 namespace {
 
-constexpr std::u32string_view kOpening = U"([{‘“〈《「『【〔〖（［｛￡￥";
-constexpr std::u32string_view kClosing = U")]},.!?:;%’”〉》」』】〕〗）］｝，。、．！？：；％…·—～";
+using enum BreakClass;
 
-bool IsIn(std::u32string_view set, char32_t c) { return set.find(c) != std::u32string_view::npos; }
+struct Members {
+    BreakClass kind;
+    std::u32string_view characters;
+};
 
-/// Ideographs, kana, full-width forms: characters that words are not made of.
-bool IsEastAsian(char32_t c) {
-    return (c >= 0x2e80 && c <= 0xd7ff) || (c >= 0xf900 && c <= 0xfaff) || (c >= 0xfe30 && c <= 0xfe4f) ||
-           (c >= 0xff00 && c <= 0xff60) || c >= 0x20000;
+constexpr Members kMembers[] = {
+    {kSpace, U" "},
+    {kNumber, U"0123456789"},
+    {kOpening, U"([{〈《「『【〔〖〝︵︷︹︻︽︿﹁﹃﹙﹛﹝（［｛"},
+    {kClosing, U"}、。〉》」』】〕〗〞︶︸︺︼︾﹀﹂﹄﹐﹒﹚﹜﹞），．］｝"},
+    {kClosingParenthesis, U")]"},
+    {kQuotation, U"\"'‘’“”"},
+    {kExclamation, U"!?！？﹖﹗"},
+    {kNonStarter, U"々ぁぃぅぇぉっゃゅょゎ゛゜ゝゞァィゥェォッャュョヮヵヶーヽヾ﹔﹕：；"},
+    {kInfix, U",.:;"},
+    {kSlash, U"/"},
+    {kHyphen, U"-"},
+    {kBreakAfter, U"\t|\u2010\u2013\u3000"},
+    {kPrefix, U"$+\\¤±€№﹩＄￡￥"},
+    {kPostfix, U"%°‰′″‵℃℉﹪％￠"},
+    {kEllipsis, U"…‥"},
+    {kDash, U"—"},
+};
+
+/// Ideographs, kana and full-width forms, as far as kMembers does not say otherwise.
+bool IsIdeograph(char32_t c) {
+    return (c >= 0x2e80 && c <= 0xd7ff) || (c >= 0xf900 && c <= 0xfaff) || (c >= 0xfe30 && c <= 0xfe6b) ||
+           (c >= 0xff01 && c <= 0xffe6) || (c >= 0x20000 && c <= 0x3fffd);
+}
+
+bool IsControl(char32_t c) { return c < 0x20 || c == 0x7f; }
+
+bool IsIn(BreakClass kind, std::initializer_list<BreakClass> set) {
+    return std::find(set.begin(), set.end(), kind) != set.end();
+}
+
+bool MayBreakAtSpaces(BreakClass before, BreakClass after) {
+    if (IsIn(after, {kClosing, kClosingParenthesis, kExclamation, kInfix, kSlash})) return false;
+    if (before == kOpening || (before == kQuotation && after == kOpening)) return false;
+    if (IsIn(before, {kClosing, kClosingParenthesis}) && after == kNonStarter) return false;
+    return !(before == kDash && after == kDash);
+}
+
+/// What keeps to the number or word that it stands beside.
+bool BelongTogether(BreakClass before, BreakClass after) {
+    switch (after) {
+        case kEllipsis:
+            return IsIn(before, {kLetter, kIdeograph, kEllipsis, kNumber});
+        case kPostfix:
+            return IsIn(before, {kIdeograph, kClosing, kClosingParenthesis, kNumber});
+        case kPrefix:
+            return IsIn(before, {kClosing, kClosingParenthesis, kNumber});
+        case kOpening:
+            return IsIn(before, {kLetter, kNumber, kPrefix, kPostfix});
+        case kIdeograph:
+            return before == kPrefix;
+        case kLetter:
+            return IsIn(before, {kLetter, kNumber, kPrefix, kPostfix, kInfix, kClosingParenthesis});
+        case kNumber:
+            return IsIn(before,
+                        {kLetter, kNumber, kPrefix, kPostfix, kInfix, kClosingParenthesis, kHyphen, kSlash});
+        default:
+            return false;
+    }
 }
 
 }  // namespace
 
-bool MayBreakBetween(char32_t before, char32_t after) {
-    if (after == U' ') return before != U' ';
-    if (before == U' ') return true;
-    if (IsIn(kOpening, before) || IsIn(kClosing, after)) return false;
-    return IsEastAsian(before) || IsEastAsian(after);
+BreakClass BreakClassOf(char32_t character) {
+    for (const Members& members : kMembers)
+        if (members.characters.find(character) != std::u32string_view::npos) return members.kind;
+    if (IsControl(character)) return kCombining;
+    return IsIdeograph(character) ? kIdeograph : kLetter;
+}
+
+bool MayBreakBetween(BreakClass before, BreakClass after, bool spaces) {
+    if (before == kCombining) before = kLetter;
+    if (after == kCombining && spaces) after = kLetter;
+    if (!MayBreakAtSpaces(before, after)) return false;
+    if (spaces) return true;
+    if (before == kQuotation || IsIn(after, {kQuotation, kBreakAfter, kHyphen, kNonStarter, kCombining}))
+        return false;
+    return !BelongTogether(before, after);
 }
 
 }  // namespace tavlon::win32

@@ -42,10 +42,21 @@ private:
     /// Whether the rectangle's bottom ends the text.
     bool BoundedBelow() const { return !Measuring() && (m_format & DT_NOCLIP) == 0; }
 
+    bool Editing() const { return (m_format & DT_EDITCONTROL) != 0; }
+    /// Whether the rectangle has no room for a line behind the one that begins now. An edit control shows no
+    /// line of which more than a row would be cut off.
+    bool IsLastLine() const {
+        if (SingleLine()) return true;
+        if (!BoundedBelow()) return false;
+        return Editing() ? m_used + 2 * m_lineHeight > HeightOf(m_rect) + 1
+                         : m_used + m_lineHeight > HeightOf(m_rect);
+    }
+
     std::int64_t FirstLineOffset() const;
     std::int64_t LeftOf(const TextLine& line) const;
     void DrawLine(const TextLine& line, std::int64_t y);
     void DrawPiece(std::string_view text, std::int64_t x, std::int64_t y);
+    void UnderlineMarked(const TextLine& line, std::int64_t left, std::int64_t y);
     void Underline(std::int64_t x, std::int64_t y, int width);
 
     DeviceContext& m_dc;
@@ -78,7 +89,8 @@ void TextBlock::DrawPiece(std::string_view text, std::int64_t x, std::int64_t y)
 void TextBlock::Underline(std::int64_t x, std::int64_t y, int width) {
     const std::int64_t line = y + m_font.Metrics().ascent + 1;
     RECT rect{Clamped(x), Clamped(line), Clamped(x + width - 1), Clamped(line + 1)};
-    if (!(m_format & DT_NOCLIP) && !IntersectRect(&rect, &rect, &m_rect)) return;
+    const RECT clip{m_rect.left, m_rect.top, m_rect.right, Clamped(std::int64_t{m_rect.bottom} + 1)};
+    if (!(m_format & DT_NOCLIP) && !IntersectRect(&rect, &rect, &clip)) return;
     FillDeviceRect(m_dc, ToSurface(m_dc, rect), m_dc.state.textColor);
 }
 
@@ -93,17 +105,27 @@ void TextBlock::DrawLine(const TextLine& line, std::int64_t y) {
     };
     for (std::size_t i = line.first; i < line.end; ++i) {
         const TextCell& cell = m_lines.Cells()[i];
-        if (cell.underlined) Underline(left + x, y, cell.width);
-        if (cell.character == U'\t' && (m_format & DT_EXPANDTABS)) {
-            x = (x / m_lines.TabWidth() + 1) * m_lines.TabWidth();
+        x = m_lines.Advance(static_cast<int>(x), cell);
+        if (m_lines.IsTab(cell))
             flush();
-            continue;
-        }
-        piece += cell.bytes;
-        x += cell.width;
+        else
+            piece += cell.bytes;
     }
     if (line.ellipsis) piece += "...";
     flush();
+    UnderlineMarked(line, left, y);
+}
+
+/// Only a line's last mark shows: on top of the text and of its background.
+void TextBlock::UnderlineMarked(const TextLine& line, std::int64_t left, std::int64_t y) {
+    const TextCell* pMarked = nullptr;
+    int x = 0, xMarked = 0;
+    for (std::size_t i = line.first; i < line.end; ++i) {
+        const TextCell& cell = m_lines.Cells()[i];
+        if (cell.underlined) pMarked = &cell, xMarked = x;
+        x = m_lines.Advance(x, cell);
+    }
+    if (pMarked) Underline(left + xMarked, y, pMarked->width);
 }
 
 int TextBlock::Run() {
@@ -115,7 +137,7 @@ int TextBlock::Run() {
     std::size_t at = 0;
     m_used = offset;
     do {
-        const bool isLast = SingleLine() || (BoundedBelow() && m_used + m_lineHeight > HeightOf(m_rect));
+        const bool isLast = IsLastLine();
         const TextLine line = m_lines.LineAt(at, isLast);
         if (!Measuring()) DrawLine(line, m_rect.top + m_used);
         m_widest = std::max(m_widest, line.width);

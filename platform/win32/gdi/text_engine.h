@@ -10,9 +10,15 @@ namespace tavlon::win32 {
 
 class FontFace;  ///< A rasteriser for one description: face matched, fallbacks, glyphs cached.
 
+/// A line along the text: rows from the base line to its top edge, downwards, and how many it fills.
+struct TextRule {
+    int top = 0, height = 1;
+};
+
 struct FontMetrics {
     int ascent = 0, descent = 0, internalLeading = 0, externalLeading = 0;
     int aveCharWidth = 0, maxCharWidth = 0;
+    TextRule underline, strikeout;
 };
 
 /// One glyph ready to be drawn: coverage 0..255, `left` right of the pen, `top` above the baseline.

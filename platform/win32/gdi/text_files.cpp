@@ -1,9 +1,11 @@
 #include "gdi/text_files.h"
 
+#include FT_FONT_FORMATS_H
 #include FT_TRUETYPE_TABLES_H
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace tavlon::win32 {
 namespace {
@@ -16,6 +18,13 @@ DesignMetrics PlainDesign(FT_Face face) {
     design.descent = std::abs(face->descender);
     design.aveCharWidth = design.maxCharWidth = face->max_advance_width;
     return design;
+}
+
+void ReadLines(FT_Face face, DesignMetrics& design) {
+    if (const auto* post = static_cast<const TT_Postscript*>(FT_Get_Sfnt_Table(face, FT_SFNT_POST)))
+        design.underline = {post->underlinePosition, post->underlineThickness};
+    if (const auto* os2 = static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2)))
+        design.strikeout = {os2->yStrikeoutPosition, os2->yStrikeoutSize};
 }
 
 int ExternalLeading(const TT_HoriHeader& header, const DesignMetrics& design) {
@@ -33,8 +42,31 @@ DesignMetrics ReadDesign(FT_Face face) {
         design.descent = os2->usWinDescent;
         design.aveCharWidth = os2->xAvgCharWidth;
     }
+    ReadLines(face, design);
     if (header) design.externalLeading = ExternalLeading(*header, design);
     return design;
+}
+
+constexpr BYTE kRoman = 0x10, kSwiss = 0x20, kModern = 0x30;  // the families with, without serifs, fixed
+
+/// The family by the class of the face's serifs.
+BYTE FamilyOf(const FT_Byte* panose, bool fixedPitch) {
+    if (fixedPitch) return kModern;
+    const int serifs = panose[1];
+    if (serifs >= 2 && serifs <= 10) return kRoman;
+    return serifs >= 11 && serifs <= 15 ? kSwiss : FF_DONTCARE;
+}
+
+FaceTraits ReadTraits(FT_Face face, bool fixedPitch) {
+    constexpr FT_ULong kCodePage936 = 1ul << 18;
+    FaceTraits traits;
+    traits.trueType = std::strcmp(FT_Get_Font_Format(face), "TrueType") == 0;
+    if (const auto* os2 = static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2))) {
+        traits.firstCharacter = os2->usFirstCharIndex;
+        traits.chinese = (os2->ulCodePageRange1 & kCodePage936) != 0;
+        traits.family = FamilyOf(os2->panose, fixedPitch);
+    }
+    return traits;
 }
 
 }  // namespace
@@ -56,7 +88,9 @@ FT_Face OpenFont(FontFile& file) {
         FT_Done_Face(file.face);
         file.face = nullptr;
     }
-    if (file.face) file.design = ReadDesign(file.face);
+    if (!file.face) return nullptr;
+    file.design = ReadDesign(file.face);
+    file.traits = ReadTraits(file.face, file.fixedPitch);
     return file.face;
 }
 

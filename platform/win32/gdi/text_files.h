@@ -10,12 +10,27 @@
 
 namespace tavlon::win32 {
 
+/// A line under or through the text, in font units.
+struct DesignLine {
+    int position = 0;  ///< Of its middle, above the base line.
+    int thickness = 0;
+};
+
 /// The vertical design metrics of a face, in font units.
 struct DesignMetrics {
     int unitsPerEm = 1000;
     int ascent = 800, descent = 200;  ///< Of the cell, both positive.
     int externalLeading = 0;
     int aveCharWidth = 500, maxCharWidth = 1000;
+    DesignLine underline{-100, 50}, strikeout{250, 50};
+};
+
+/// What a face tells of itself beside sizes.
+struct FaceTraits {
+    int firstCharacter = 0x20;
+    bool chinese = false;  ///< Made for code page 936 too.
+    bool trueType = true;  ///< Else its outlines are of the other kind.
+    BYTE family = 0;       ///< FF_*
 };
 
 /// One face of one font file, opened on first use and kept.
@@ -26,6 +41,7 @@ struct FontFile {
     FT_Face face = nullptr;
     bool opened = false;  ///< Tried; `face` stays null when the file cannot be used.
     DesignMetrics design;
+    FaceTraits traits;
 };
 
 struct FontMatch {

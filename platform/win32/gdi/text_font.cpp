@@ -1,5 +1,7 @@
 #include "gdi/text_font.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <unordered_map>
 
@@ -17,10 +19,20 @@ bool WantsSmoothing(const LOGFONTA& font) {
 
 /// What two descriptions that look alike have in common, as a key.
 std::string KeyOf(const LOGFONTA& font, bool smooth) {
-    const LONG numbers[] = {font.lfHeight, IsBold(font), font.lfItalic != 0, smooth};
+    const LONG numbers[] = {font.lfHeight, font.lfWidth, IsBold(font), font.lfItalic != 0, smooth};
     std::string key(reinterpret_cast<const char*>(numbers), sizeof numbers);
     return key.append(font.lfFaceName, strnlen(font.lfFaceName, LF_FACESIZE));
 }
+
+/// How much wider a face becomes whose average width is asked for: 0 asks for nothing, and neither does a
+/// description without a height.
+double StretchTo(const LOGFONTA& font, int average) {
+    constexpr double kWidest = 100;
+    if (font.lfWidth == 0 || font.lfHeight == 0) return 1;
+    return std::min(kWidest, std::abs(static_cast<double>(font.lfWidth)) / std::max(1, average));
+}
+
+bool IsPrivate(char32_t c) { return (c >= 0xe000 && c <= 0xf8ff) || c >= 0xf0000; }
 
 }  // namespace
 
@@ -30,8 +42,9 @@ FontFace::FontFace(const LOGFONTA& font, bool smooth) : m_font(font), m_smooth(s
     m_name = std::move(match.faceName);
     m_primary = FirstUsable();
     const DesignMetrics design = m_primary ? m_primary->design : DesignMetrics{};
-    const bool embolden = m_primary && StyleOn(*m_primary).embolden;
-    m_metrics = ScaleMetrics(design, EmPixels(design, font.lfHeight), embolden);
+    const RasterStyle style = m_primary ? StyleOn(*m_primary) : RasterStyle{};
+    m_metrics = ScaleMetrics(design, EmPixels(design, font.lfHeight), style.embolden);
+    StretchMetrics(m_metrics, style.stretch);
 }
 
 FontFile* FontFace::FirstUsable() const {
@@ -43,6 +56,7 @@ FontFile* FontFace::FirstUsable() const {
 std::pair<FontFile*, FT_UInt> FontFace::Find(char32_t character) const {
     if (character < 0x20) return {m_primary, 0};  // controls show as missing, whatever a font holds for them
     for (FontFile* file : m_files) {
+        if (IsPrivate(character) && file != m_primary) continue;  // every font has others there
         FT_Face face = OpenFont(*file);
         const FT_UInt glyph = face ? FT_Get_Char_Index(face, character) : 0;
         if (glyph != 0) return {file, glyph};
@@ -53,9 +67,12 @@ std::pair<FontFile*, FT_UInt> FontFace::Find(char32_t character) const {
 RasterStyle FontFace::StyleOn(const FontFile& file) const {
     RasterStyle style;
     style.emPixels = EmPixels(file.design, m_font.lfHeight);
+    style.stretch = StretchTo(m_font, ScaleMetrics(file.design, style.emPixels, false).aveCharWidth);
     style.embolden = IsBold(m_font) && !file.bold;
     style.slant = m_font.lfItalic && !file.italic;
     style.smooth = m_smooth;
+    style.ascent = m_metrics.ascent;
+    style.descent = m_metrics.descent;
     return style;
 }
 

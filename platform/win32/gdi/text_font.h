@@ -19,8 +19,8 @@ public:
     const FontMetrics& Metrics() const { return m_metrics; }
     const Glyph& GlyphFor(char32_t character);
     const std::string& Name() const { return m_name; }
-    bool Scalable() const { return m_primary != nullptr; }
-    bool FixedPitch() const { return m_primary && m_primary->fixedPitch; }
+    /// The file that most glyphs come from; null on a machine without fonts.
+    const FontFile* File() const { return m_primary; }
 
 private:
     struct CachedGlyph {

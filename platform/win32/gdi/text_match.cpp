@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -18,7 +19,8 @@ namespace {
 
 constexpr int kBoldAbove = 550;
 const FcChar8* const kLanguage = reinterpret_cast<const FcChar8*>("zh-cn");
-const FcChar8* const kLastResort = reinterpret_cast<const FcChar8*>("WenQuanYi Micro Hei");
+/// Asked for behind every face: Chinese, then symbols.
+constexpr const char* kLastResorts[] = {"WenQuanYi Micro Hei", "DejaVu Sans"};
 
 struct PatternDeleter {
     void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
@@ -79,7 +81,8 @@ public:
     FcFontSet* Sort(FcPattern* pattern) {
         FcConfigSubstitute(m_config, pattern, FcMatchPattern);
         FcDefaultSubstitute(pattern);
-        FcPatternAddString(pattern, FC_FAMILY, kLastResort);
+        for (const char* family : kLastResorts)
+            FcPatternAddString(pattern, FC_FAMILY, reinterpret_cast<const FcChar8*>(family));
         FcResult result = FcResultNoMatch;
         return FcFontSetSort(m_config, &m_fonts, 1, pattern, FcTrue, nullptr, &result);
     }
@@ -150,7 +153,7 @@ bool HasFamily(FcPattern* pattern, const char* family) {
 bool AnswersTo(FcPattern* found, FcPattern* asked) {
     FcValue value;
     FcValueBinding binding;
-    const int lastResort = FamilyCount(asked) - 1;
+    const int lastResort = FamilyCount(asked) - static_cast<int>(std::size(kLastResorts));
     for (int i = 0;
          i < lastResort && FcPatternGetWithBinding(asked, FC_FAMILY, i, &value, &binding) == FcResultMatch;
          ++i)

@@ -19,10 +19,23 @@ std::string_view View(LPCSTR pszText, std::int64_t cbText) {
     return {pszText ? pszText : "", static_cast<std::size_t>(cbText)};
 }
 
-BYTE PitchAndFamily(const FontFace& font) {
+constexpr int kOtherOutlines = 8;  ///< Where TMPF_TRUETYPE would stand.
+
+BYTE PitchAndFamily(const FontFile& file) {
     // The system's flag is set for faces of varying width.
-    const int pitch = font.FixedPitch() ? 0 : TMPF_FIXED_PITCH;
-    return static_cast<BYTE>(pitch | (font.Scalable() ? TMPF_VECTOR | TMPF_TRUETYPE : 0));
+    const int pitch = file.fixedPitch ? 0 : TMPF_FIXED_PITCH;
+    return static_cast<BYTE>(file.traits.family | pitch | TMPF_VECTOR |
+                             (file.traits.trueType ? TMPF_TRUETYPE : kOtherOutlines));
+}
+
+/// What depends on the file alone.
+void FillTraits(const FontFile& file, BYTE askedCharSet, TEXTMETRICA& out) {
+    const int first = file.traits.firstCharacter;
+    out.tmFirstChar = static_cast<BYTE>(file.traits.trueType ? first - 2 : first);
+    out.tmDefaultChar = static_cast<BYTE>(first - 1);
+    out.tmBreakChar = static_cast<BYTE>(first);
+    out.tmPitchAndFamily = PitchAndFamily(file);
+    out.tmCharSet = file.traits.chinese && askedCharSet != ANSI_CHARSET ? GB2312_CHARSET : ANSI_CHARSET;
 }
 
 void FillMetrics(const FontFace& font, const LOGFONTA& description, TEXTMETRICA& out) {
@@ -37,15 +50,11 @@ void FillMetrics(const FontFace& font, const LOGFONTA& description, TEXTMETRICA&
     out.tmMaxCharWidth = metrics.maxCharWidth;
     out.tmWeight = IsBold(description) ? FW_BOLD : FW_NORMAL;
     out.tmDigitizedAspectX = out.tmDigitizedAspectY = 96;
-    out.tmFirstChar = 0x20;
     out.tmLastChar = 0xff;
-    out.tmDefaultChar = 0x1f;
-    out.tmBreakChar = 0x20;
     out.tmItalic = description.lfItalic ? 255 : 0;
-    out.tmUnderlined = description.lfUnderline;
-    out.tmStruckOut = description.lfStrikeOut;
-    out.tmPitchAndFamily = PitchAndFamily(font);
-    out.tmCharSet = GB2312_CHARSET;
+    out.tmUnderlined = description.lfUnderline ? 255 : 0;
+    out.tmStruckOut = description.lfStrikeOut ? 255 : 0;
+    if (font.File()) FillTraits(*font.File(), description.lfCharSet, out);
 }
 
 }  // namespace

@@ -2,10 +2,12 @@
 
 #include FT_OUTLINE_H
 
+#include <algorithm>
+
 namespace tavlon::win32 {
 namespace {
 
-/// Whole-pixel box around an outline, so large that the pixels of drop-out control at its edges are kept.
+/// Whole-pixel box around an outline, without what lies above or below the cell.
 struct PixelBox {
     int left, bottom, width, height;
 };
@@ -20,22 +22,33 @@ bool Load(FT_Face face, FT_UInt glyph, FT_Int32 flags) {
 
 int WholePixels(FT_Pos position) { return static_cast<int>((position + 32) >> 6); }
 
-int LoadedAdvance(FT_Face face, const RasterStyle& style) {
-    return WholePixels(face->glyph->metrics.horiAdvance) + (style.embolden ? 1 : 0);
+FT_Matrix Stretching(const RasterStyle& style) {
+    return {static_cast<FT_Fixed>(style.stretch * 0x10000), 0, 0, 0x10000};
 }
 
-/// Leans to the right by about 18 degrees.
+/// Stretched advances are rounded upwards.
+int LoadedAdvance(FT_Face face, const RasterStyle& style) {
+    const FT_Pos advance = face->glyph->metrics.horiAdvance;
+    const int pixels = style.stretch == 1
+                           ? WholePixels(advance)
+                           : static_cast<int>((FT_MulFix(advance, Stretching(style).xx) + 63) >> 6);
+    return pixels + (style.embolden ? 1 : 0);
+}
+
+/// Leans to the right, a pixel in four rows.
 void Slant(FT_Outline& outline) {
-    FT_Matrix lean{0x10000, 0x5555, 0, 0x10000};
+    FT_Matrix lean{0x10000, 0x4000, 0, 0x10000};
     FT_Outline_Transform(&outline, &lean);
 }
 
-PixelBox BoxOf(const FT_Outline& outline) {
+PixelBox BoxOf(const FT_Outline& outline, const RasterStyle& style) {
     FT_BBox box;
     FT_Outline_Get_CBox(&outline, &box);
-    const FT_Pos left = box.xMin >> 6, bottom = box.yMin >> 6;
-    return {static_cast<int>(left), static_cast<int>(bottom), static_cast<int>(((box.xMax + 63) >> 6) - left),
-            static_cast<int>(((box.yMax + 63) >> 6) - bottom)};
+    const FT_Pos left = box.xMin >> 6, right = (box.xMax + 63) >> 6;
+    const FT_Pos bottom = std::max<FT_Pos>(box.yMin >> 6, -style.descent);
+    const FT_Pos top = std::min<FT_Pos>((box.yMax + 63) >> 6, style.ascent);
+    return {static_cast<int>(left), static_cast<int>(bottom), static_cast<int>(right - left),
+            static_cast<int>(top - bottom)};
 }
 
 /// Renders into rows of `pitch` bytes.
@@ -66,8 +79,9 @@ std::vector<unsigned char> BitsToCoverage(const std::vector<unsigned char>& rows
     return coverage;
 }
 
-void DrawOutline(FT_Outline& outline, bool smooth, RasterGlyph& out) {
-    const PixelBox box = BoxOf(outline);
+void DrawOutline(FT_Outline& outline, const RasterStyle& style, RasterGlyph& out) {
+    const PixelBox box = BoxOf(outline, style);
+    const bool smooth = style.smooth;
     if (box.width <= 0 || box.height <= 0) return;
     out.left = box.left;
     out.top = box.bottom + box.height;
@@ -90,8 +104,10 @@ std::optional<RasterGlyph> RasterizeGlyph(FontFile& file, const RasterStyle& sty
     out.drawnAdvance = LoadedAdvance(face, style);
     FT_Outline& outline = face->glyph->outline;
     if (style.embolden) FT_Outline_Embolden(&outline, static_cast<FT_Pos>(style.emPixels) * 64 / 24);
+    if (const FT_Matrix stretching = Stretching(style); style.stretch != 1)
+        FT_Outline_Transform(&outline, &stretching);
     if (style.slant) Slant(outline);
-    DrawOutline(outline, style.smooth, out);
+    DrawOutline(outline, style, out);
     return out;
 }
 

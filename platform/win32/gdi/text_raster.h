@@ -10,9 +10,11 @@ namespace tavlon::win32 {
 
 struct RasterStyle {
     int emPixels = 16;
-    bool embolden = false;  ///< The face has no bold: thicken its outlines.
-    bool slant = false;     ///< The face has no italic: lean its outlines.
-    bool smooth = true;     ///< Else coverage is 0 or 255.
+    double stretch = 1;           ///< Of the widths, where a description asks for an average width.
+    bool embolden = false;        ///< The face has no bold: thicken its outlines.
+    bool slant = false;           ///< The face has no italic: lean its outlines.
+    bool smooth = true;           ///< Else coverage is 0 or 255.
+    int ascent = 0, descent = 0;  ///< Of the text's cell, beyond which no ink goes.
 };
 
 struct RasterGlyph {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "gdi/surface.h"
 #include "kernel/code_page.h"
 
 namespace tavlon::win32 {
@@ -87,21 +88,22 @@ void DrawGlyphs(DeviceContext& dc, const TextRun& run, POINT pen, const RECT& cl
                       Add(pen.y, -placed.glyph->top), clip);
 }
 
-/// Lines that the description asks for under or through the text.
-void DrawTextLines(DeviceContext& dc, const FontMetrics& metrics, const Placement& place, const RECT& clip) {
+/// Lines that the description asks for under or through the text; ETO_CLIPPED does not clip them.
+void DrawTextLines(DeviceContext& dc, const FontMetrics& metrics, const Placement& place) {
     const LOGFONTA& font = FontDescription(dc);
-    const auto line = [&](int y) {
-        const RECT rect = Intersection({place.box.left, y, place.box.right, Add(y, 1)}, clip);
+    const auto rule = [&](const TextRule& rows) {
+        const int top = Add(place.pen.y, rows.top);
+        const RECT rect{place.box.left, top, place.box.right, Add(top, rows.height)};
         if (!IsEmpty(rect)) FillDeviceRect(dc, rect, dc.state.textColor);
     };
-    if (font.lfUnderline) line(Add(place.pen.y, 1));
-    if (font.lfStrikeOut) line(Add(place.pen.y, -metrics.ascent / 3));
+    if (font.lfUnderline) rule(metrics.underline);
+    if (font.lfStrikeOut) rule(metrics.strikeout);
 }
 
-int AdvanceOf(const Glyph& glyph, const INT* pDx, std::size_t at, int bytes) {
-    if (!pDx) return glyph.drawnAdvance;
+/// What the caller's list has for the bytes of one character.
+int SumOf(const INT* pDx, int bytes) {
     int sum = 0;
-    for (int i = 0; i < bytes; ++i) sum = Add(sum, pDx[at + static_cast<std::size_t>(i)]);
+    for (int i = 0; i < bytes; ++i) sum = Add(sum, pDx[i]);
     return sum;
 }
 
@@ -115,16 +117,33 @@ void ForEachGlyph(FontFace& font, std::string_view text, Visit visit) {
     }
 }
 
+/// The background box and the glyphs.
+void DrawInk(DeviceContext& dc, const FontMetrics& metrics, const TextRun& run, const Placement& place,
+             const RECT& clip) {
+    const RECT ink = Intersection(InkBounds(place, metrics), clip);
+    if (IsEmpty(ink) || !MayDraw(dc, ink)) return;
+    const RECT box = Intersection(place.box, clip);
+    if (dc.state.bkMode == OPAQUE && !IsEmpty(box)) FillBackground(dc, box);
+    DrawGlyphs(dc, run, place.pen, clip);
+}
+
 }  // namespace
 
-FontFace& FontOf(const DeviceContext& dc) { return *FontForDescription(FontDescription(dc)); }
+FontFace& FontOf(const DeviceContext& dc) {
+    LOGFONTA description = FontDescription(dc);
+    if (dc.surface && dc.surface->BitsPerPixel() == 1) description.lfQuality = NONANTIALIASED_QUALITY;
+    return *FontForDescription(description);
+}
 
 TextRun LayOutRun(FontFace& font, std::string_view text, const INT* pDx) {
     TextRun run;
     run.glyphs.reserve(text.size());
+    int x = 0;
     ForEachGlyph(font, text, [&](const Glyph& glyph, std::size_t at, int bytes) {
-        run.glyphs.push_back({&glyph, run.width});
-        run.width = Add(run.width, AdvanceOf(glyph, pDx, at, bytes));
+        const int asked = pDx ? SumOf(pDx + at, bytes) : 0;
+        run.glyphs.push_back({&glyph, x});
+        x = Add(x, pDx ? asked : glyph.drawnAdvance);
+        run.width = Add(run.width, pDx ? asked : glyph.advance);
     });
     return run;
 }
@@ -142,17 +161,13 @@ void DrawRun(DeviceContext& dc, FontFace& font, POINT point, UINT options, const
     const POINT logical = follows ? dc.state.position : point;
     const RECT rect = pRect ? Normalised(ToSurface(dc, *pRect)) : RECT{};
     const RECT clip = pRect && (options & ETO_CLIPPED) ? rect : kEverywhere;
-    if (pRect && (options & ETO_OPAQUE)) FillDeviceRect(dc, rect, dc.state.bkColor);
+    if (pRect && (options & ETO_OPAQUE)) FillBackground(dc, rect);
     if (text.empty()) return;
     const TextRun run = LayOutRun(font, text, pDx);
     const Placement place = Place(dc, font.Metrics(), ToSurface(dc, logical.x, logical.y), run.width);
     if (follows) MovePosition(dc, run.width);
-    const RECT ink = Intersection(InkBounds(place, font.Metrics()), clip);
-    if (IsEmpty(ink) || !MayDraw(dc, ink)) return;
-    const RECT box = Intersection(place.box, clip);
-    if (dc.state.bkMode == OPAQUE && !IsEmpty(box)) FillDeviceRect(dc, box, dc.state.bkColor);
-    DrawGlyphs(dc, run, place.pen, clip);
-    DrawTextLines(dc, font.Metrics(), place, clip);
+    DrawInk(dc, font.Metrics(), run, place, clip);
+    DrawTextLines(dc, font.Metrics(), place);
 }
 
 }  // namespace tavlon::win32

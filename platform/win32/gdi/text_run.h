@@ -16,7 +16,7 @@ struct PlacedGlyph {
 
 struct TextRun {
     std::vector<PlacedGlyph> glyphs;
-    int width = 0;
+    int width = 0;  ///< As measured: the glyphs, drawn at their own advances, may end elsewhere.
 };
 
 /// The font selected into a context.

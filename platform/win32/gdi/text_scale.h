@@ -13,4 +13,7 @@ int EmPixels(const DesignMetrics& design, LONG lfHeight);
 /// The metrics at an em size; `emboldened` faces are one pixel wider.
 FontMetrics ScaleMetrics(const DesignMetrics& design, int emPixels, bool emboldened);
 
+/// The metrics' widths become `stretch` times as wide.
+void StretchMetrics(FontMetrics& metrics, double stretch);
+
 }  // namespace tavlon::win32

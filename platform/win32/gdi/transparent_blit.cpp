@@ -1,3 +1,4 @@
+#include "gdi/blit.h"
 #include "gdi/colour.h"
 #include "gdi/device_context.h"
 #include "gdi/rectangle_math.h"
@@ -15,44 +16,53 @@ void CopyVisible(Surface& dst, const RECT& box, Surface& src, int dx, int dy, st
         const std::uint32_t* s = src.Row32(y + dy) + box.left + dx;
         for (int i = 0; i < width; ++i) {
             const std::uint32_t pixel = s[i] & kWhitePixel;
-            d[i] = pixel == leftOut ? d[i] : pixel;
+            d[i] = (pixel == leftOut ? d[i] : pixel) & kWhitePixel;
         }
     }
 }
 
-/// Draws the sprite whose pixel `from` comes to the corner of `place`; what `src` lacks stays unchanged.
-void Sprite(DeviceContext& dst, const RECT& place, Surface& src, POINT from, std::uint32_t leftOut) {
-    const std::int64_t dx = std::int64_t{from.x} - place.left, dy = std::int64_t{from.y} - place.top;
-    const RECT part = Intersection(Intersection(place, ClipBounds(dst)), Moved(src.Bounds(), -dx, -dy));
-    if (IsEmpty(part)) return;
+/// Draws the sprite whose pixel (0, 0) comes to the corner of `place`.
+void Sprite(DeviceContext& dst, const RECT& place, Surface& src, std::uint32_t leftOut) {
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dst).Boxes(count);
     for (int i = 0; i < count; ++i) {
-        const RECT box = Intersection(part, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});
-        if (!IsEmpty(box))
-            CopyVisible(*dst.surface, box, src, static_cast<int>(dx), static_cast<int>(dy), leftOut);
+        const RECT box = Intersection(place, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});
+        if (!IsEmpty(box)) CopyVisible(*dst.surface, box, src, -place.left, -place.top, leftOut);
     }
-    NoteDamage(dst, part);
+    NoteDamage(dst, place);
+}
+
+/// A fresh memory context that lies over a part of `dst`, black at first.
+DeviceContext WorkSheet(const DeviceContext& dst, const RECT& part) {
+    DeviceContext work = dst;
+    work.surface = Surface::Create(part.right - part.left, part.bottom - part.top);
+    work.memory = true;
+    if (work.surface) work.visible.Set(work.surface->Bounds());
+    work.state = DcState{};
+    work.effectiveStale = true;
+    return work;
 }
 
 }  // namespace
 
+// The sprite is drawn on a black sheet first, which shows where the source ends or when it has no pixels at
+// all.
 BOOL TransparentBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc, int cxSrc,
                     int cySrc, UINT clrTransparent) {
     DeviceContext* dst = DcOf(hdcDst);
     DeviceContext* src = dst ? DcOf(hdcSrc) : nullptr;
     if (!src || cx < 0 || cy < 0 || cxSrc < 0 || cySrc < 0) return FALSE;
-    if (cx == 0 || cy == 0 || cxSrc == 0 || cySrc == 0) return TRUE;
+    if (cx == 0 || cy == 0) return TRUE;
     const POINT to = ToSurface(*dst, x, y), from = ToSurface(*src, xSrc, ySrc);
-    const std::uint32_t leftOut = PixelOf(*src, clrTransparent);
-    if (cx == cxSrc && cy == cySrc) {
-        Sprite(*dst, FromSize(to.x, to.y, cx, cy), *src->surface, from, leftOut);
-        return TRUE;
-    }
-    const Stretched made = StretchPixels(*src->surface, {from.x, cxSrc}, {from.y, cySrc}, {to.x, cx},
-                                         {to.y, cy}, ClipBounds(*dst), true);
-    if (!made.pixels) return TRUE;
-    const RECT place = Moved(made.known, made.place.left, made.place.top);
-    Sprite(*dst, place, *made.pixels, {made.known.left, made.known.top}, leftOut);
+    const RECT part = Intersection(FromSize(to.x, to.y, cx, cy), ClipBounds(*dst));
+    if (IsEmpty(part)) return TRUE;
+    DeviceContext work = WorkSheet(*dst, part);
+    if (!work.surface) return FALSE;
+    const Extent toX{to.x - part.left, cx}, toY{to.y - part.top, cy};
+    if (cx == cxSrc && cy == cySrc)
+        Transfer(work, FromSize(toX.start, toY.start, cx, cy), *src, from, SRCCOPY);
+    else if (cxSrc != 0 && cySrc != 0)
+        TransferStretched(work, *src, {toX, toY, {from.x, cxSrc}, {from.y, cySrc}}, BLACKONWHITE, SRCCOPY);
+    Sprite(*dst, part, *work.surface, PixelOf(work, clrTransparent));
     return TRUE;
 }

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "kernel/dib.h"
 #include "kernel/module_table.h"
 
@@ -29,18 +31,6 @@ void Map3dColours(std::vector<std::uint32_t>& palette) {
         else if (colour == 0xdfdfdf)
             colour = PaletteColour(GetSysColor(COLOR_3DLIGHT));
     }
-}
-
-/// The nearest pixel of the original for each of the result; a side of 0 keeps its length.
-Picture Scale(Picture source, int cx, int cy) {
-    Picture out{cx > 0 ? cx : source.width, cy > 0 ? cy : source.height, {}};
-    if (out.width == source.width && out.height == source.height) return source;
-    out.pixels.reserve(static_cast<std::size_t>(out.width) * out.height);
-    for (std::int64_t y = 0; y < out.height; ++y)
-        for (std::int64_t x = 0; x < out.width; ++x)
-            out.pixels.push_back(source.pixels[static_cast<std::size_t>(
-                y * source.height / out.height * source.width + x * source.width / out.width)]);
-    return out;
 }
 
 BITMAPINFO TopDownInfo(const Picture& picture) {
@@ -71,6 +61,32 @@ HBITMAP MakeScreenBitmap(const Picture& picture) {
     return hBitmap;
 }
 
+/// Copies all of one bitmap into the other, smoothing.
+void Scale(HBITMAP from, SIZE size, HBITMAP to, SIZE wanted) {
+    const HDC source = CreateCompatibleDC(nullptr), target = CreateCompatibleDC(nullptr);
+    const HGDIOBJ oldSource = SelectObject(source, from), oldTarget = SelectObject(target, to);
+    SetStretchBltMode(target, HALFTONE);
+    StretchBlt(target, 0, 0, wanted.cx, wanted.cy, source, 0, 0, size.cx, size.cy, SRCCOPY);
+    SelectObject(source, oldSource), SelectObject(target, oldTarget);
+    DeleteDC(source), DeleteDC(target);
+}
+
+/// The picture in another size; a side of 0 keeps its length.
+Picture Resized(Picture picture, int cx, int cy) {
+    Picture out{cx > 0 ? cx : picture.width, cy > 0 ? cy : picture.height, {}};
+    if (out.width == picture.width && out.height == picture.height) return picture;
+    out.pixels.resize(static_cast<std::size_t>(out.width) * out.height);
+    const HBITMAP from = MakeSection(picture), to = MakeSection(out);
+    if (from && to) {
+        Scale(from, {picture.width, picture.height}, to, {out.width, out.height});
+        BITMAP made{};
+        GetObjectA(to, sizeof made, &made);
+        std::copy_n(static_cast<const std::uint32_t*>(made.bmBits), out.pixels.size(), out.pixels.begin());
+    }
+    DeleteObject(from), DeleteObject(to);
+    return out;
+}
+
 /// Enough for any picture, and little enough to be made without a second thought.
 constexpr int kMaxSide = 4096;
 
@@ -81,7 +97,7 @@ HBITMAP LoadBitmapResource(HINSTANCE hInstance, LPCSTR pszName, int cx, int cy, 
     if (nFlags & LR_LOADMAP3DCOLORS) Map3dColours(dib->palette);
     std::optional<std::vector<std::uint32_t>> pixels = DibPixels(*dib);
     if (!pixels) return nullptr;
-    const Picture picture = Scale({dib->width, dib->height, std::move(*pixels)}, cx, cy);
+    const Picture picture = Resized({dib->width, dib->height, std::move(*pixels)}, cx, cy);
     return nFlags & LR_CREATEDIBSECTION ? MakeSection(picture) : MakeScreenBitmap(picture);
 }
 

@@ -1,5 +1,7 @@
 #include "user/activation.h"
 
+#include <algorithm>
+
 #include "user/capture.h"
 #include "user/desktop.h"
 #include "user/window_tree.h"
@@ -68,19 +70,26 @@ void TellActivated(HWND hWnd, HWND hOld, bool byMouse) {
     if (g_active == hWnd && IsWindow(hWnd) && !FocusInside(hWnd) && !IsIconic(hWnd)) MoveFocus(hWnd);
 }
 
-bool MayActivate(const Window& window) {
-    return window.Has(WS_VISIBLE) && !window.Has(WS_DISABLED) && !window.destroying &&
-           !(window.exStyle & WS_EX_NOACTIVATE);
+bool IsShownAndEnabled(const Window& window) {
+    return window.Has(WS_VISIBLE) && !window.Has(WS_DISABLED) && !window.destroying;
 }
 
-/// Who takes over from a window that goes away: its owner, or the topmost of the others.
+bool MayActivate(const Window& window) {
+    return IsShownAndEnabled(window) && !(window.exStyle & WS_EX_NOACTIVATE);
+}
+
+/// Who takes over from a window that goes away: its owner, the next one below, or the topmost.
 HWND Successor(HWND hGone) {
     const Window* gone = WindowOf(hGone);
     const Window* owner = gone && gone->owner ? WindowOf(gone->owner) : nullptr;
-    if (owner && MayActivate(*owner)) return owner->self;
-    for (const Window* window : TopLevels())
-        if (window->self != hGone && MayActivate(*window)) return window->self;
-    return nullptr;
+    if (owner && IsShownAndEnabled(*owner)) return owner->self;
+    const auto& all = TopLevels();
+    const auto usable = [hGone](const Window* window) {
+        return window->self != hGone && MayActivate(*window);
+    };
+    auto next = std::find_if(std::find(all.begin(), all.end(), gone), all.end(), usable);
+    if (next == all.end()) next = std::find_if(all.begin(), all.end(), usable);
+    return next == all.end() ? nullptr : (*next)->self;
 }
 
 bool Activate(HWND hWnd, bool byMouse, bool raise) {
@@ -93,7 +102,7 @@ bool Activate(HWND hWnd, bool byMouse, bool raise) {
     if (!hWnd) return LeaveForeground(), true;
     EnterForeground();
     if (g_active != hWnd || !(window = WindowOf(hWnd))) return false;
-    if (raise) PlaceInOrder(*window, HWND_TOP);
+    if (raise && window->Has(WS_VISIBLE)) RaiseWithOwned(*window);
     RaiseOnDesktop(*window);
     TellActivated(hWnd, hOld == hWnd ? nullptr : hOld, byMouse);
     return true;
@@ -106,7 +115,7 @@ bool ActivateWindow(HWND hWnd, bool byMouse) { return Activate(hWnd, byMouse, tr
 void LeaveHiddenWindow(HWND hWnd) {
     if (g_active == hWnd) Activate(Successor(hWnd), false, false);
     const Window* window = WindowOf(hWnd);
-    if (!window || !FocusInside(hWnd)) return;
+    if (!window || g_focus != hWnd) return;
     MoveFocus(window->parent ? window->parent->self : nullptr);
 }
 
@@ -130,12 +139,13 @@ using namespace tavlon::win32;
 
 HWND SetFocus(HWND hWnd) {
     Window* window = hWnd ? WindowOf(hWnd) : nullptr;
-    if (hWnd && (!window || !Usable(*window) || window->destroying)) return nullptr;
-    const HWND hOld = g_focus;
+    if (hWnd && (!window || !Usable(*window))) return nullptr;
     if (window) {
         const HWND hRoot = RootOf(*window).self;
         if (hRoot != g_active && !ActivateWindow(hRoot, false)) return nullptr;
+        if (g_active != hRoot || !WindowOf(hWnd)) return nullptr;  // a handler had other plans
     }
+    const HWND hOld = g_focus;  // activating the window around it may have moved the focus there
     MoveFocus(hWnd);
     return hOld;
 }
@@ -146,30 +156,29 @@ HWND GetForegroundWindow() { return g_foreground ? g_active : nullptr; }
 
 HWND SetActiveWindow(HWND hWnd) {
     Window* window = hWnd ? WindowOf(hWnd) : nullptr;
-    if (hWnd && (!window || window->IsChild() || window->Has(WS_DISABLED))) return nullptr;
+    if (hWnd && !window) return nullptr;
     const HWND hOld = g_active;
     ActivateWindow(hWnd, false);
     return hOld;
 }
 
-BOOL SetForegroundWindow(HWND hWnd) {
-    Window* window = WindowOf(hWnd);
-    return window && ActivateWindow(RootOf(*window).self, false);
-}
+BOOL SetForegroundWindow(HWND hWnd) { return ActivateWindow(hWnd, false); }
 
 BOOL EnableWindow(HWND hWnd, BOOL bEnable) {
     Window* window = WindowOf(hWnd);
     if (!window) return FALSE;
+    if (!bEnable) SendMessageA(hWnd, WM_CANCELMODE, 0, 0);
+    if (!(window = WindowOf(hWnd))) return FALSE;
     const bool wasDisabled = window->Has(WS_DISABLED);
     if (wasDisabled == !bEnable) return wasDisabled;
     if (bEnable) {
         window->style &= ~WS_DISABLED;
     } else {
-        SendMessageA(hWnd, WM_CANCELMODE, 0, 0);
-        if (!(window = WindowOf(hWnd))) return wasDisabled;
         window->style |= WS_DISABLED;
         if (g_focus == hWnd) MoveFocus(nullptr);
     }
-    if (IsWindow(hWnd)) SendMessageA(hWnd, WM_ENABLE, bEnable != 0, 0);
+    if (!(window = WindowOf(hWnd))) return wasDisabled;
+    if (!window->update.Empty()) window->needsFramePaint = true;  // a frame may look different now
+    SendMessageA(hWnd, WM_ENABLE, bEnable != 0, 0);
     return wasDisabled;
 }

@@ -18,11 +18,6 @@ void MoveCapture(HWND hWnd) {
 
 }  // namespace
 
-void ReleaseCaptureOf(HWND hWnd) {
-    const Window* window = WindowOf(hWnd);
-    if (window && g_capture && IsSameOrChild(*window, WindowOf(g_capture))) EndCapture();
-}
-
 void EndCapture() {
     if (g_capture) MoveCapture(nullptr);
 }

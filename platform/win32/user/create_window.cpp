@@ -18,13 +18,10 @@ HWND Refuse(DWORD error) {
 bool IsOverlapped(DWORD style) { return !(style & (WS_POPUP | WS_CHILD)); }
 bool IsChildStyle(DWORD style) { return (style & (WS_POPUP | WS_CHILD)) == WS_CHILD; }
 
-/// The styles a window always gets with what was asked for.
+/// The styles a window always gets with what was asked for. What all top-level windows have is not mentioned.
 void CompleteStyles(CREATESTRUCTA& wanted) {
-    DWORD style = static_cast<DWORD>(wanted.style);
-    if (IsOverlapped(style)) style |= WS_CAPTION;
-    if (!IsChildStyle(style)) style |= WS_CLIPSIBLINGS;
-    if (style & (WS_DLGFRAME | WS_THICKFRAME)) wanted.dwExStyle |= WS_EX_WINDOWEDGE;
-    wanted.style = static_cast<LONG>(style);
+    if ((wanted.style & (WS_DLGFRAME | WS_THICKFRAME)) || (wanted.dwExStyle & WS_EX_DLGMODALFRAME))
+        wanted.dwExStyle |= WS_EX_WINDOWEDGE;
 }
 
 /// CW_USEDEFAULT means something for overlapped windows; others start at 0 with no size.
@@ -49,9 +46,18 @@ DWORD ParentError(DWORD style, HWND hParent) {
     return ERROR_SUCCESS;
 }
 
+/// What belongs to a top-most window is top-most too.
+void FollowOwner(Window& window) {
+    if (const Window* owner = window.owner ? WindowOf(window.owner) : nullptr)
+        window.exStyle |= owner->exStyle & WS_EX_TOPMOST;
+}
+
 void TakeOver(Window& window, const CREATESTRUCTA& wanted) {
     window.style = static_cast<DWORD>(wanted.style) & ~WS_VISIBLE;
+    if (!IsChildStyle(window.style)) window.style |= WS_CLIPSIBLINGS;
     window.exStyle = wanted.dwExStyle;
+    if (IsOverlapped(window.style)) window.style |= WS_CAPTION, window.exStyle |= WS_EX_WINDOWEDGE;
+    FollowOwner(window);
     window.instance = wanted.hInstance;
     window.frame = {wanted.x, wanted.y, wanted.x + wanted.cx, wanted.y + wanted.cy};
     window.client = window.frame;
@@ -67,9 +73,12 @@ void Hang(Window& window, HWND hParent) {
         window.parent = parent;
     else if (parent)
         window.owner = RootOf(*parent).self;
+    const bool topMost = (window.exStyle & WS_EX_TOPMOST) != 0;
+    FollowOwner(window);
     auto& siblings = SiblingsOf(window);
     siblings.push_back(&window);
-    if (!window.IsChild()) PlaceInOrder(window, HWND_TOP);
+    if (window.IsChild()) return;
+    PlaceInOrder(window, topMost ? HWND_TOPMOST : AboveOwner(window, HWND_TOP));
 }
 
 Window* MakeWindow(const ClassRef& cls, const CREATESTRUCTA& wanted) {
@@ -84,7 +93,8 @@ Window* MakeWindow(const ClassRef& cls, const CREATESTRUCTA& wanted) {
     return window;
 }
 
-void ApplyLimits(HWND hWnd, CREATESTRUCTA& wanted) {
+/// What the window is told about its creation stays as it was asked for.
+void ApplyLimits(HWND hWnd, CREATESTRUCTA wanted) {
     if (!HasSizeLimits(*WindowOf(hWnd))) return;
     const MINMAXINFO limits = AskSizeLimits(hWnd);
     Window* window = WindowOf(hWnd);

@@ -1,3 +1,4 @@
+#include "user/activation.h"
 #include "user/capture.h"
 #include "user/desktop.h"
 #include "user/geometry.h"
@@ -93,7 +94,7 @@ LRESULT OnActivate(HWND hWnd, WPARAM wParam) {
 }
 
 LRESULT OnNcActivate(Window& window) {
-    if (window.Has(WS_CAPTION) && IsVisible(window) && !window.needsFramePaint)
+    if (window.Has(WS_CAPTION) && IsVisible(window))
         PaintFrame(window.self, reinterpret_cast<HRGN>(static_cast<LONG_PTR>(1)));
     return TRUE;
 }
@@ -103,7 +104,8 @@ LRESULT OnMouseActivate(const Window& window, WPARAM wParam, LPARAM lParam) {
         const LRESULT answer = SendMessageA(window.parent->self, WM_MOUSEACTIVATE, wParam, lParam);
         if (answer) return answer;
     }
-    return MA_ACTIVATE;
+    const bool onCaption = LOWORD(lParam) == HTCAPTION && HIWORD(lParam) == WM_LBUTTONDOWN;
+    return onCaption ? MA_NOACTIVATE : MA_ACTIVATE;  // the caption activates when the press arrives
 }
 
 /// The parent may decide; then the class's cursor, or the arrow over the frame.
@@ -128,13 +130,17 @@ LRESULT OnRightButtonUp(HWND hWnd, LPARAM lParam) {
     return 0;
 }
 
-LRESULT OnContextMenu(const Window& window, WPARAM wParam, LPARAM lParam) {
-    if (window.IsChild() && window.parent) SendMessageA(window.parent->self, WM_CONTEXTMENU, wParam, lParam);
+LRESULT OnContextMenu(const Window& window, LPARAM lParam) {
+    const auto self = reinterpret_cast<WPARAM>(window.self);
+    if (window.IsChild() && window.parent) SendMessageA(window.parent->self, WM_CONTEXTMENU, self, lParam);
     return 0;
 }
 
 LRESULT OnNcButtonDown(HWND hWnd, WPARAM code, LPARAM lParam) {
-    if (code == HTCAPTION) SendMessageA(hWnd, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, lParam);
+    if (code != HTCAPTION) return 0;
+    const HWND hRoot = RootOf(*WindowOf(hWnd)).self;
+    if (ActivateWindow(hRoot, false) && IsWindow(hWnd))
+        SendMessageA(hWnd, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, lParam);
     return 0;
 }
 
@@ -257,13 +263,13 @@ LRESULT Default(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_RBUTTONUP:
             return OnRightButtonUp(hWnd, lParam);
         case WM_CONTEXTMENU:
-            return OnContextMenu(window, wParam, lParam);
+            return OnContextMenu(window, lParam);
         case WM_SYSCOMMAND:
             return OnSysCommand(hWnd, wParam);
         case WM_SYSKEYDOWN:
             return OnSysKeyDown(hWnd, wParam);
         case WM_CANCELMODE:
-            return ReleaseCaptureOf(hWnd), 0;
+            return GetCapture() == hWnd ? EndCapture() : void(), 0;
         case WM_SETREDRAW:
             return OnSetRedraw(window, wParam != 0);
         case WM_SHOWWINDOW:

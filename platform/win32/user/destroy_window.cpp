@@ -92,9 +92,8 @@ BOOL DestroyWindow(HWND hWnd) {
     TellParent(hWnd);
     if (IsWindow(hWnd)) HideForEnd(hWnd);
     for (HWND owned : OwnedBy(hWnd)) DestroyWindow(owned);
-    if (!IsWindow(hWnd)) return TRUE;
-    LeaveHiddenWindow(hWnd);
-    ReleaseCaptureOf(hWnd);
+    if (!(window = WindowOf(hWnd))) return TRUE;
+    if (!window->parent) LeaveHiddenWindow(hWnd);
     if (IsWindow(hWnd)) SendDestroy(hWnd);
     EndTree(hWnd);
     return TRUE;

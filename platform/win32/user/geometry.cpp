@@ -91,24 +91,26 @@ RECT ClientOnScreen(const Window& window) {
     return MovedRect(LocalRect(window.ClientWidth(), window.ClientHeight()), at.x, at.y);
 }
 
-Region VisibleFrame(Window& window) {
+Region FrameInParents(Window& window) {
     if (!IsVisible(window) || RootOf(window).Has(WS_MINIMIZE)) return {};
     Region region(OnSurface(window, LocalRect(window.Width(), window.Height())));
-    for (Window* at = &window; at->parent; at = at->parent) {
-        region.Intersect(Region(ClientRectOnSurface(*at->parent)));
-        if (at->Has(WS_CLIPSIBLINGS)) CutSiblingsAbove(*at, region);
+    for (const Window* parent = window.parent; parent; parent = parent->parent) {
+        region.Intersect(Region(ClientRectOnSurface(*parent)));
+        region.Intersect(Region(OnSurface(*parent, LocalRect(parent->Width(), parent->Height()))));
     }
     return region;
 }
 
-Region VisibleWhole(Window& window) {
-    Region region = VisibleFrame(window);
-    CutChildren(window, region);
+Region VisibleFrame(Window& window) {
+    Region region = FrameInParents(window);
+    for (Window* at = &window; at->parent && !region.Empty(); at = at->parent)
+        if (at->Has(WS_CLIPSIBLINGS)) CutSiblingsAbove(*at, region);
     return region;
 }
 
 Region VisibleClient(Window& window) {
-    Region region = VisibleWhole(window);
+    Region region = VisibleFrame(window);
+    CutChildren(window, region);
     region.Intersect(Region(ClientRectOnSurface(window)));
     return region;
 }

@@ -19,12 +19,12 @@ POINT ClientInFrame(const Window& window);
 RECT FrameOnScreen(const Window& window);
 RECT ClientOnScreen(const Window& window);
 
+/// The part of the frame inside all its parents, on the surface; empty for a window that is not shown.
+Region FrameInParents(Window& window);
 /// What of the frame can be seen on the surface: inside its parents, below no clipped sibling.
 Region VisibleFrame(Window& window);
 /// What drawing into the client area reaches: VisibleFrame less the frame and, with WS_CLIPCHILDREN, less
 /// the children.
 Region VisibleClient(Window& window);
-/// Of the whole frame, children cut out when the window clips them.
-Region VisibleWhole(Window& window);
 
 }  // namespace tavlon::win32

@@ -15,7 +15,8 @@ void Collect(const std::vector<Window*>& order, POINT pt, std::vector<HWND>& fou
     for (const Window* window : order) {
         if (!window->Has(WS_VISIBLE) || window->Has(WS_MINIMIZE) || !FrameContains(*window, pt)) continue;
         if (window->parent && window->Has(WS_DISABLED)) continue;
-        if (Contains(ClientOnScreen(*window), pt)) Collect(window->children, pt, found);
+        if (!window->Has(WS_DISABLED) && Contains(ClientOnScreen(*window), pt))
+            Collect(window->children, pt, found);
         found.push_back(window->self);
     }
 }

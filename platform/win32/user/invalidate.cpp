@@ -23,7 +23,7 @@ Region InChild(const Window& window, const Window& child, Region area) {
 }
 
 Region Seen(Window& window, Region area) {
-    Region visible = VisibleWhole(window);
+    Region visible = FrameInParents(window);
     const POINT at = FrameOnSurface(window);
     visible.Translate(-at.x, -at.y);
     area.Intersect(visible);
@@ -43,7 +43,7 @@ void Mark(Window& window, const Region& area, UINT flags) {
 
 void DropMarksWhenValid(Window& window) {
     if (!window.update.Empty()) return;
-    window.needsErase = window.needsFramePaint = false;
+    window.needsErase = window.eraseRefused = window.needsFramePaint = false;
 }
 
 /// The parameter of WM_NCPAINT: 1 for the whole window, else a region on the screen.
@@ -93,11 +93,11 @@ void UpdateTree(HWND hWnd, bool withChildren) {
     for (HWND child : HandlesOf(window->children)) UpdateTree(child, true);
 }
 
-void EraseTree(HWND hWnd, bool withChildren) {
-    EraseNow(hWnd);
-    const Window* window = withChildren ? WindowOf(hWnd) : nullptr;
-    if (!window) return;
-    for (HWND child : HandlesOf(window->children)) EraseTree(child, true);
+void WantPaint(Window& window, UINT flags) {
+    window.internalPaint = true;
+    if (!ReachesChildren(window, flags)) return;
+    for (Window* child : window.children)
+        if (!FrameInParents(*child).Empty()) WantPaint(*child, flags);
 }
 
 void Redraw(Window& window, const RECT* rect, HRGN hRgn, UINT flags) {
@@ -107,7 +107,7 @@ void Redraw(Window& window, const RECT* rect, HRGN hRgn, UINT flags) {
         InvalidateArea(window, Requested(window, rect, hRgn, withFrame), flags);
     else if (flags & RDW_VALIDATE)
         ValidateArea(window, Requested(window, rect, hRgn, !rect && !hRgn), flags);
-    if (flags & RDW_INTERNALPAINT) window.internalPaint = true;
+    if (flags & RDW_INTERNALPAINT) WantPaint(window, flags);
     const bool deep = ReachesChildren(window, flags);
     if (flags & RDW_UPDATENOW)
         UpdateTree(hWnd, deep);
@@ -130,7 +130,7 @@ void InvalidateArea(Window& window, const Region& area, UINT flags) {
 
 void ValidateArea(Window& window, const Region& area, UINT flags) {
     window.update.Subtract(area);
-    if (flags & RDW_NOERASE) window.needsErase = false;
+    if (flags & RDW_NOERASE) window.needsErase = window.eraseRefused = false;
     DropMarksWhenValid(window);
     if (!ReachesChildren(window, flags)) return;
     for (Window* child : window.children) ValidateArea(*child, InChild(window, *child, area), flags);
@@ -159,16 +159,24 @@ void EraseNow(HWND hWnd) {
     const HDC hdc = OpenWindowDc(*window, DcArea::Client, &clip);
     const LRESULT erased = SendMessageA(hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(hdc), 0);
     CloseWindowDc(hdc);
-    if (!erased && (window = WindowOf(hWnd))) window->needsErase = true;
+    if (!erased && (window = WindowOf(hWnd))) window->eraseRefused = true;
+}
+
+void EraseTree(HWND hWnd, bool withChildren) {
+    EraseNow(hWnd);
+    const Window* window = withChildren ? WindowOf(hWnd) : nullptr;
+    if (!window) return;
+    for (HWND child : HandlesOf(window->children)) EraseTree(child, true);
+}
+
+void CutUnseenUpdates(Window& window) {
+    window.update = Seen(window, window.update);
+    DropMarksWhenValid(window);
+    for (Window* child : window.children) CutUnseenUpdates(*child);
 }
 
 void VisibilityChanged(Window& window) {
-    if (window.parent) {
-        InvalidateArea(*window.parent, Region(LocalRect(window.parent->Width(), window.parent->Height())),
-                       RDW_ERASE | RDW_ALLCHILDREN);
-    } else {
-        TouchScreen(window.frame);
-    }
+    if (!window.parent) TouchScreen(window.frame);
     RetargetWindowDcs(RootOf(window));
 }
 

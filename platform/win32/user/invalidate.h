@@ -11,8 +11,12 @@ void InvalidateArea(Window& window, const Region& area, UINT flags);
 void ValidateArea(Window& window, const Region& area, UINT flags);
 /// Sends WM_NCPAINT and WM_ERASEBKGND where they are due; the update region stays.
 void EraseNow(HWND hWnd);
+/// The same for the window and, where wanted, everything in it.
+void EraseTree(HWND hWnd, bool withChildren);
 /// Paints the frame when it is due.
 void PaintFrameIfDue(HWND hWnd);
+/// What has come to lie outside of its parents need not be painted, here and in all children.
+void CutUnseenUpdates(Window& window);
 /// The style bit changed without SetWindowPos.
 void VisibilityChanged(Window& window);
 bool NeedsPaint(const Window& window);

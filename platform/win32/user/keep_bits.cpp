@@ -18,7 +18,9 @@ Region MovedRegion(Region region, POINT by, int sign = 1) {
 }
 
 bool RedrawsAll(const Window& window, const KeptBits& before, UINT flags) {
-    if (flags & (SWP_NOCOPYBITS | SWP_SHOWWINDOW | SWP_HIDEWINDOW)) return true;
+    const bool inPlace = EqualRect(&window.frame, &before.frame) && EqualRect(&window.client, &before.client);
+    if ((flags & SWP_NOCOPYBITS) && !inPlace) return true;
+    if (flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) return true;
     const bool wider = window.ClientWidth() != before.client.right - before.client.left;
     const bool taller = window.ClientHeight() != before.client.bottom - before.client.top;
     return (wider && (window.cls->style & CS_HREDRAW)) || (taller && (window.cls->style & CS_VREDRAW));
@@ -34,26 +36,37 @@ Region OldClient(const KeptBits& before) {
                             before.clientInFrame.y - before.client.top));
 }
 
+/// What the client area shows stays at its left top corner, wherever that lies in the frame now.
+POINT ClientShift(const Window& window, const KeptBits& before) {
+    const POINT client = ClientInFrame(window);
+    return {client.x - before.clientInFrame.x, client.y - before.clientInFrame.y};
+}
+
 /// With another frame or size the frame is drawn anew; the client area keeps what both have.
-Region Comparable(const Window& window, const KeptBits& before) {
+Region Comparable(const Window& window, const KeptBits& before, UINT flags) {
     const POINT client = ClientInFrame(window);
     const bool sameOffset = client.x == before.clientInFrame.x && client.y == before.clientInFrame.y;
     const bool sameFrame = SameSize(window.frame, before.frame);
     if (!sameOffset && !sameFrame) return {};
-    if (sameOffset && sameFrame && SameSize(window.client, before.client))
+    if (!(flags & SWP_FRAMECHANGED) && sameOffset && sameFrame && SameSize(window.client, before.client))
         return Region(LocalRect(window.Width(), window.Height()));
     Region both(MovedRect(LocalRect(window.ClientWidth(), window.ClientHeight()), client.x, client.y));
-    both.Intersect(OldClient(before));
+    both.Intersect(MovedRegion(OldClient(before), ClientShift(window, before)));
     return both;
 }
 
 /// Relative to the frame.
 Region ValidPart(Window& window, const KeptBits& before, const Region& visibleNow, UINT flags) {
     if (!RootOf(window).surface || RedrawsAll(window, before, flags)) return {};
-    Region valid = Comparable(window, before);
-    valid.Intersect(MovedRegion(before.visible, before.onSurface, -1));
+    Region valid = Comparable(window, before, flags);
+    valid.Intersect(
+        MovedRegion(MovedRegion(before.visible, before.onSurface, -1), ClientShift(window, before)));
     valid.Intersect(MovedRegion(visibleNow, FrameOnSurface(window), -1));
-    valid.Subtract(before.update);
+    return valid;
+}
+
+Region PaintedPart(const Window& window, Region valid, const KeptBits& before) {
+    valid.Subtract(MovedRegion(before.update, ClientShift(window, before)));
     return valid;
 }
 
@@ -86,25 +99,25 @@ void CopyValid(Window& window, const KeptBits& before, const Region& valid, cons
     Window& root = RootOf(window);
     if (!oldSurface || !root.surface || valid.Empty()) return;
     const POINT now = FrameOnSurface(window);
-    const POINT by{now.x - before.onSurface.x, now.y - before.onSurface.y};
+    const POINT shift = ClientShift(window, before);
+    const POINT by{now.x + shift.x - before.onSurface.x, now.y + shift.y - before.onSurface.y};
     if (oldSurface == root.surface && by.x == 0 && by.y == 0) return;
-    Region source = OnSurfaceOnly(*oldSurface, MovedRegion(valid, before.onSurface), by);
+    Region source =
+        OnSurfaceOnly(*oldSurface, MovedRegion(MovedRegion(valid, shift, -1), before.onSurface), by);
     source = OnSurfaceOnly(*root.surface, source, {-by.x, -by.y});
     CopyPixels(*oldSurface, *root.surface, source, by);
     AddDamage(root, MovedRegion(source, by));
 }
 
-void InvalidateUncovered(Window& window, const KeptBits& before, const Region& visibleNow) {
-    if (!window.parent) return;
-    Region uncovered = before.visible;
-    uncovered.Subtract(visibleNow);
-    if (uncovered.Empty()) return;
+void InvalidateUncovered(Window& window, const Region& uncovered) {
+    if (!window.parent || uncovered.Empty()) return;
     const POINT parentAt = FrameOnSurface(*window.parent);
     InvalidateArea(*window.parent, MovedRegion(uncovered, parentAt, -1), RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-void InvalidateRest(Window& window, const Region& valid, const Region& visibleNow) {
-    Region rest = MovedRegion(visibleNow, FrameOnSurface(window), -1);
+/// Windows that lie above in the same parent do not count: they may go before it is painted.
+void InvalidateRest(Window& window, const Region& valid) {
+    Region rest = MovedRegion(FrameInParents(window), FrameOnSurface(window), -1);
     rest.Subtract(valid);
     if (!rest.Empty()) InvalidateArea(window, rest, RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
@@ -119,21 +132,26 @@ void TouchOldAndNew(const Window& window, const KeptBits& before) {
 
 KeptBits RememberBits(Window& window) {
     CollectDamage();
-    return {VisibleFrame(window),  window.update, FrameOnSurface(window),
-            ClientInFrame(window), window.frame,  window.client};
+    return {VisibleFrame(window),  FrameInParents(window), window.update, FrameOnSurface(window),
+            ClientInFrame(window), window.frame,           window.client};
 }
 
-void MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
+bool MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
     TouchOldAndNew(window, before);
     const Region visibleNow = VisibleFrame(window);
     const Region valid = ValidPart(window, before, visibleNow, positionFlags);
     const SurfaceRef oldSurface = RootOf(window).surface;
     if (!window.parent) FitSurface(window);
-    CopyValid(window, before, valid, oldSurface);
-    window.update.Intersect(Region(LocalRect(window.Width(), window.Height())));
-    if (positionFlags & SWP_NOREDRAW) return;
-    InvalidateUncovered(window, before, visibleNow);
-    InvalidateRest(window, valid, visibleNow);
+    CopyValid(window, before, PaintedPart(window, valid, before), oldSurface);
+    CutUnseenUpdates(window);
+    Region uncovered = before.visible, left = before.inParents;
+    uncovered.Subtract(visibleNow);
+    left.Subtract(FrameInParents(window));
+    if (!(positionFlags & SWP_NOREDRAW)) {
+        InvalidateUncovered(window, uncovered);
+        InvalidateRest(window, valid);
+    }
+    return !left.Empty() || !uncovered.Empty();
 }
 
 }  // namespace tavlon::win32

@@ -7,14 +7,16 @@ namespace tavlon::win32 {
 
 /// A window's picture before a change.
 struct KeptBits {
-    Region visible;  ///< Of the frame, on the surface.
-    Region update;   ///< Not yet painted, relative to the frame.
+    Region visible;    ///< Of the frame, on the surface.
+    Region inParents;  ///< The same without regard to siblings.
+    Region update;     ///< Not yet painted, relative to the frame.
     POINT onSurface{}, clientInFrame{};
     RECT frame{}, client{};
 };
 
 KeptBits RememberBits(Window& window);
-/// Moves what stays valid and invalidates the rest of the window and what it uncovered.
-void MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags);
+/// Moves what stays valid and invalidates the rest of the window and what it uncovered. True when it
+/// left a place in its parents.
+bool MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags);
 
 }  // namespace tavlon::win32

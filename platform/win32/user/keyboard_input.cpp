@@ -123,9 +123,9 @@ BOOL TranslateMessage(const MSG* pMsg) {
     const std::string text = TypedBy(static_cast<int>(pMsg->wParam));
     MSG typed = *pMsg;
     typed.message = pMsg->message == WM_KEYDOWN ? WM_CHAR : WM_SYSCHAR;
-    for (std::size_t i = text.size(); i-- > 0;) {  // each goes before the one posted earlier
-        typed.wParam = static_cast<unsigned char>(text[i]);
-        PostFirst(typed);
+    for (const char c : text) {
+        typed.wParam = static_cast<unsigned char>(c);
+        PostAsIs(typed);
     }
     return TRUE;
 }

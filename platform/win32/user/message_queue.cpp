@@ -47,9 +47,10 @@ bool TakePosted(MSG& msg, const Filter& filter, bool remove) {
     return true;
 }
 
+/// Whatever window or messages are asked for, it comes when no posted one does.
 bool TakeQuit(MSG& msg, bool remove) {
     Queue& queue = TheQueue();
-    if (!queue.quit || !queue.posted.empty()) return false;
+    if (!queue.quit) return false;
     msg = MakeMessage(nullptr, WM_QUIT, static_cast<WPARAM>(queue.exitCode), 0);
     if (remove) queue.quit = false;
     return true;
@@ -95,8 +96,8 @@ bool PassesWindow(HWND hWnd, HWND filter) {
     return hWnd && (hWnd == filter || IsChild(filter, hWnd));
 }
 
-void PostFirst(const MSG& msg) {
-    if (TheQueue().posted.size() < kMaxPosted) TheQueue().posted.push_front(msg);
+void PostAsIs(const MSG& msg) {
+    if (TheQueue().posted.size() < kMaxPosted) TheQueue().posted.push_back(msg);
 }
 
 void DropMessagesOf(HWND hWnd) {

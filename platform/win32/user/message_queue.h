@@ -11,8 +11,8 @@ bool PassesRange(UINT message, UINT first, UINT last);
 /// Whether a message for the window passes the filter: null takes all, a window itself and its children.
 bool PassesWindow(HWND hWnd, HWND filter);
 
-/// What a key press says goes before everything posted.
-void PostFirst(const MSG& msg);
+/// With the time and place that it has already.
+void PostAsIs(const MSG& msg);
 void DropMessagesOf(HWND hWnd);
 /// True when no message is there and, without input from outside and timers, none will ever come.
 bool NothingCanArrive();

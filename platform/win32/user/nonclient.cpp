@@ -1,6 +1,8 @@
 #include "user/nonclient.h"
 
 #include <algorithm>
+#include <cstring>
+#include <string>
 
 #include "user/geometry.h"
 
@@ -8,15 +10,23 @@ namespace tavlon::win32 {
 
 namespace {
 
-constexpr int kCornerReach = 16;  // how far along an edge the corners can be gripped
+constexpr int kEdge = 2;          // a sunken edge around the client area
+constexpr int kCornerReach = 22;  // how far along an edge the corners can be gripped
 
-int BorderWidth(DWORD style) {
-    const bool dialog = (style & (WS_DLGFRAME | WS_THICKFRAME)) != 0;
-    const bool line = (style & (WS_BORDER | WS_DLGFRAME)) != 0;
+int BorderWidth(DWORD style, DWORD exStyle) {
+    const bool modal = (exStyle & WS_EX_DLGMODALFRAME) != 0;
+    const bool dialog = modal || (style & (WS_DLGFRAME | WS_THICKFRAME)) != 0;
+    const bool line = modal || (style & (WS_BORDER | WS_DLGFRAME)) != 0;
     return (dialog ? 2 : 0) + ((style & WS_THICKFRAME) ? 1 : 0) + (line ? 1 : 0);
 }
 
 bool HasCaption(DWORD style) { return (style & WS_CAPTION) == WS_CAPTION; }
+
+int CaptionHeight(DWORD style, DWORD exStyle) {
+    constexpr int kSmall = 17;
+    if (!HasCaption(style)) return 0;
+    return (exStyle & WS_EX_TOOLWINDOW) ? kSmall : GetSystemMetrics(SM_CYCAPTION);
+}
 
 bool Inside(const RECT& rect, POINT pt) {
     return pt.x >= rect.left && pt.x < rect.right && pt.y >= rect.top && pt.y < rect.bottom;
@@ -33,25 +43,38 @@ int EdgeCode(const RECT& frame, POINT pt, int border) {
     return kCodes[band(pt.y, frame.top, frame.bottom, onSide)][band(pt.x, frame.left, frame.right, !onSide)];
 }
 
-/// The buttons stand at the caption's right end: close, then maximise, then minimise.
-int CaptionCode(const Window& window, const RECT& caption, POINT pt) {
-    if (!window.Has(WS_SYSMENU)) return HTCAPTION;
-    const int width = caption.bottom - caption.top;
-    const int slot = (caption.right - 1 - pt.x) / std::max(width, 1);
-    if (slot == 0) return HTCLOSE;
-    if (slot == 1 && window.Has(WS_MAXIMIZEBOX)) return HTMAXBUTTON;
-    if (slot == 2 && window.Has(WS_MINIMIZEBOX)) return HTMINBUTTON;
-    return pt.x < caption.left + width ? HTSYSMENU : HTCAPTION;
+/// Where a sizing frame without a line of its own meets a sunken edge, one more pixel can be gripped.
+int GripWidth(const Window& window) {
+    const bool bare = !(window.style & (WS_BORDER | WS_DLGFRAME)) && !(window.exStyle & WS_EX_DLGMODALFRAME);
+    const bool more = bare && window.Has(WS_THICKFRAME) && (window.exStyle & WS_EX_CLIENTEDGE);
+    return BorderWidth(window.style, window.exStyle) + (more ? 1 : 0);
 }
 
 RECT CaptionRect(const Window& window) {
-    const int border = BorderWidth(window.style);
-    return {border, border, window.Width() - border, border + GetSystemMetrics(SM_CYCAPTION) - 1};
+    const int border = BorderWidth(window.style, window.exStyle);
+    return {border, border, window.Width() - border,
+            border + CaptionHeight(window.style, window.exStyle) - 1};
+}
+
+/// The buttons stand at the caption's right end: close, then maximise, then minimise; either of the latter
+/// brings the place for both.
+int CaptionCode(const Window& window, const RECT& caption, POINT pt) {
+    constexpr int kButton = 18;
+    if (!window.Has(WS_SYSMENU)) return HTCAPTION;
+    const bool tool = (window.exStyle & WS_EX_TOOLWINDOW) != 0;
+    const bool icon = !tool && !(window.exStyle & WS_EX_DLGMODALFRAME);
+    const bool boxes = !tool && (window.style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX));
+    if (icon && pt.x < caption.left + kButton) return HTSYSMENU;
+    const int slot = (caption.right - 1 - pt.x) / kButton;
+    if (slot == 0) return HTCLOSE;
+    if (boxes && slot == 1) return HTMAXBUTTON;
+    if (boxes && slot == 2) return HTMINBUTTON;
+    return HTCAPTION;
 }
 
 void FrameRings(HDC hdc, const Window& window) {
     RECT ring = LocalRect(window.Width(), window.Height());
-    const int border = BorderWidth(window.style);
+    const int border = BorderWidth(window.style, window.exStyle);
     const bool plain = border == 1 && !window.Has(WS_DLGFRAME);
     for (int i = 0; i < border; ++i) {
         const int colour = plain ? COLOR_WINDOWFRAME : i == 0 ? COLOR_3DSHADOW : COLOR_3DFACE;
@@ -59,7 +82,7 @@ void FrameRings(HDC hdc, const Window& window) {
         InflateRect(&ring, -1, -1);
     }
     if (!(window.exStyle & WS_EX_CLIENTEDGE)) return;
-    if (HasCaption(window.style)) ring.top += GetSystemMetrics(SM_CYCAPTION);
+    ring.top += CaptionHeight(window.style, window.exStyle);
     for (int colour : {COLOR_3DSHADOW, COLOR_3DDKSHADOW}) {
         FrameRect(hdc, &ring, GetSysColorBrush(colour));
         InflateRect(&ring, -1, -1);
@@ -79,7 +102,14 @@ void PaintCloseButton(HDC hdc, const RECT& caption) {
     }
 }
 
-void PaintCaption(HDC hdc, const Window& window) {
+/// The title as the window itself gives it.
+std::string CaptionText(HWND hWnd) {
+    char text[256] = "";
+    SendMessageA(hWnd, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return {text, strnlen(text, sizeof text)};
+}
+
+void PaintCaption(HDC hdc, const Window& window, const std::string& text) {
     RECT caption = CaptionRect(window);
     const bool active = GetActiveWindow() == window.self;
     FillRect(hdc, &caption, GetSysColorBrush(active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
@@ -90,7 +120,7 @@ void PaintCaption(HDC hdc, const Window& window) {
     SetBkMode(hdc, TRANSPARENT);
     SetTextColor(hdc, GetSysColor(COLOR_CAPTIONTEXT));
     caption.left += 4;
-    DrawTextA(hdc, window.text.c_str(), static_cast<int>(window.text.size()), &caption,
+    DrawTextA(hdc, text.c_str(), static_cast<int>(text.size()), &caption,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(hdc, hOld);
 }
@@ -110,21 +140,23 @@ void ClipToFrame(HDC hdc, const Window& window, HRGN hClip) {
                     client.y + window.ClientHeight());
 }
 
+RECT Within(const RECT& rect, const RECT& margins) {
+    const LONG left = rect.left + margins.left, top = rect.top + margins.top;
+    return {left, top, std::max(rect.right - margins.right, left),
+            std::max(rect.bottom - margins.bottom, top)};
+}
+
 }  // namespace
 
 RECT FrameMargins(DWORD style, DWORD exStyle) {
-    const int border = BorderWidth(style) + ((exStyle & WS_EX_CLIENTEDGE) ? 2 : 0);
-    const int caption = HasCaption(style) ? GetSystemMetrics(SM_CYCAPTION) : 0;
-    return {border, border + caption, border, border};
+    const int border = BorderWidth(style, exStyle) + ((exStyle & WS_EX_CLIENTEDGE) ? kEdge : 0);
+    return {border, border + CaptionHeight(style, exStyle), border, border};
 }
 
 LRESULT CalculateClient(RECT& rect, const Window& window) {
-    const RECT margins = FrameMargins(window.style, window.exStyle);
-    rect = ClampedRect(rect);
-    rect.left += margins.left;
-    rect.top += margins.top;
-    rect.right = std::max(rect.right - margins.right, rect.left);
-    rect.bottom = std::max(rect.bottom - margins.bottom, rect.top);
+    rect = Within(ClampedRect(rect), FrameMargins(window.style, window.exStyle & ~WS_EX_CLIENTEDGE));
+    const bool room = rect.right - rect.left > 2 * kEdge && rect.bottom - rect.top > 2 * kEdge;
+    if ((window.exStyle & WS_EX_CLIENTEDGE) && room) InflateRect(&rect, -kEdge, -kEdge);
     return 0;
 }
 
@@ -134,9 +166,12 @@ LRESULT HitTestFrame(HWND hWnd, POINT pt) {
     if (Inside(ClientOnScreen(*window), pt)) return HTCLIENT;
     const RECT frame = FrameOnScreen(*window);
     if (!Inside(frame, pt)) return HTNOWHERE;
+    const int border = GripWidth(*window);
+    RECT inner = frame;
+    InflateRect(&inner, -border, -border);
+    if (!Inside(inner, pt)) return window->Has(WS_THICKFRAME) ? EdgeCode(frame, pt, border) : HTBORDER;
     const RECT caption = MovedRect(CaptionRect(*window), frame.left, frame.top);
-    if (HasCaption(window->style) && Inside(caption, pt)) return CaptionCode(*window, caption, pt);
-    return window->Has(WS_THICKFRAME) ? EdgeCode(frame, pt, BorderWidth(window->style)) : HTBORDER;
+    return HasCaption(window->style) && Inside(caption, pt) ? CaptionCode(*window, caption, pt) : HTNOWHERE;
 }
 
 void PaintFrame(HWND hWnd, HRGN hClip) {
@@ -146,7 +181,11 @@ void PaintFrame(HWND hWnd, HRGN hClip) {
     const HDC hdc = GetWindowDC(hWnd);
     ClipToFrame(hdc, *window, hClip);
     FrameRings(hdc, *window);
-    if (HasCaption(window->style)) PaintCaption(hdc, *window);
+    const RECT caption = CaptionRect(*window);
+    if (HasCaption(window->style) && RectVisible(hdc, &caption)) {
+        const std::string text = CaptionText(hWnd);
+        if ((window = WindowOf(hWnd))) PaintCaption(hdc, *window, text);
+    }
     ReleaseDC(hWnd, hdc);
 }
 

@@ -1,4 +1,4 @@
-#include <cstring>
+#include <utility>
 
 #include "user/geometry.h"
 #include "user/invalidate.h"
@@ -27,8 +27,9 @@ RECT PaintBounds(Window& window, Region clip) {
 /// True when the background is still to be drawn.
 BOOL EraseForPaint(HWND hWnd, HDC hdc, const RECT& area) {
     Window* window = WindowOf(hWnd);
-    if (!window || !window->needsErase) return FALSE;
-    window->needsErase = false;
+    if (!window) return FALSE;
+    const bool refused = std::exchange(window->eraseRefused, false);
+    if (!std::exchange(window->needsErase, false)) return refused;
     if (IsRectEmpty(&area)) return FALSE;
     return SendMessageA(hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(hdc), 0) == 0;
 }

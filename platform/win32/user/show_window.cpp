@@ -36,11 +36,11 @@ void ChangeVisibility(HWND hWnd, bool show, UINT extraFlags) {
         window->style = show ? window->style | WS_VISIBLE : window->style & ~WS_VISIBLE;
 }
 
-void Show(HWND hWnd, bool activate) {
+void Show(HWND hWnd, bool activate, UINT moreFlags = 0) {
     SendMessageA(hWnd, WM_SHOWWINDOW, TRUE, 0);
     const Window* window = WindowOf(hWnd);
     if (!window) return;
-    ChangeVisibility(hWnd, true, OrderFlags(*window, activate));
+    ChangeVisibility(hWnd, true, OrderFlags(*window, activate) | moreFlags);
     PayOwedSize(hWnd);
 }
 
@@ -110,7 +110,7 @@ BOOL ShowWindow(HWND hWnd, int nShow) {
             if (IsArranged(*window))
                 Restore(hWnd);
             else if (!wasVisible)
-                Show(hWnd, nShow != SW_SHOWNOACTIVATE);
+                Show(hWnd, nShow != SW_SHOWNOACTIVATE, nShow == SW_SHOWNOACTIVATE ? SWP_NOZORDER : 0);
             break;
         case SW_SHOWNA:
             Show(hWnd, false);

@@ -37,6 +37,7 @@ struct Window {
 
     Region update;  ///< What has to be painted, relative to the frame's left top corner.
     bool needsErase = false, needsFramePaint = false, internalPaint = false;
+    bool eraseRefused = false;  ///< WM_ERASEBKGND was answered with 0: BeginPaint passes that on.
     bool redrawOff = false;     ///< WM_SETREDRAW FALSE
     bool sizeMoveOwed = false;  ///< The first show sends WM_SIZE and WM_MOVE.
     bool destroying = false, created = false;

@@ -39,7 +39,7 @@ Target TargetOf(Window& window, const OpenDc& dc) {
     if (!root.surface) FitSurface(root);
     const POINT frame = FrameOnSurface(window), client = ClientInFrame(window);
     Target target{root.surface, frame,
-                  dc.area == DcArea::Client ? VisibleClient(window) : VisibleWhole(window)};
+                  dc.area == DcArea::Client ? VisibleClient(window) : VisibleFrame(window)};
     if (dc.area == DcArea::Client) target.origin = {frame.x + client.x, frame.y + client.y};
     if (dc.clipped) {
         Region clip = dc.clip;

@@ -79,6 +79,7 @@ LONG_PTR SetStyle(HWND hWnd, int index, DWORD wanted) {
     StyleChange change{index == GWL_STYLE ? window->style : window->exStyle, wanted};
     SendMessageA(hWnd, WM_STYLECHANGING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
     if (!(window = WindowOf(hWnd))) return 0;
+    if (index == GWL_STYLE && !window->parent) change.styleNew |= WS_CLIPSIBLINGS;  // always has it
     if (index == GWL_STYLE)
         StoreStyle(*window, change.styleNew);
     else

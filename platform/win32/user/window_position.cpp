@@ -7,6 +7,8 @@
 #include "user/geometry.h"
 #include "user/invalidate.h"
 #include "user/keep_bits.h"
+#include "user/nonclient.h"
+#include "user/screen.h"
 #include "user/window_dc.h"
 #include "user/window_tree.h"
 
@@ -15,6 +17,7 @@ namespace tavlon::win32 {
 namespace {
 
 constexpr UINT kNothingChanged = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | kSwpNoClientSize | kSwpNoClientMove;
+constexpr UINT kQuietly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOSENDCHANGING | kSwpDeferErase;
 constexpr UINT kAlwaysTold = SWP_SHOWWINDOW | SWP_HIDEWINDOW | SWP_FRAMECHANGED | kSwpStateChanged;
 
 bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
@@ -30,34 +33,42 @@ void Complete(Window& window, WINDOWPOS& pos, bool anew) {
     const bool visible = window.Has(WS_VISIBLE);
     if (visible) pos.flags &= ~SWP_SHOWWINDOW;
     if (!visible) pos.flags &= ~SWP_HIDEWINDOW;
-    if (!visible && !(pos.flags & SWP_SHOWWINDOW)) pos.flags |= SWP_NOREDRAW;
+    if (!IsVisible(window) && !(pos.flags & SWP_SHOWWINDOW)) pos.flags |= SWP_NOREDRAW;
 }
 
-/// HWND_TOPMOST and HWND_NOTOPMOST also change the kind of window it is.
 void CompleteOrder(Window& window, WINDOWPOS& pos) {
-    if (pos.flags & SWP_NOZORDER) return;
-    const DWORD old = window.exStyle;
-    HWND after = pos.hwndInsertAfter;
-    if (after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
-        if (!window.parent && after == HWND_TOPMOST) window.exStyle |= WS_EX_TOPMOST;
-        if (!window.parent && after == HWND_NOTOPMOST) window.exStyle &= ~WS_EX_TOPMOST;
-        after = HWND_TOP;
+    const HWND after = pos.hwndInsertAfter;
+    const bool special = IsAnyTop(after) || after == HWND_BOTTOM;
+    if ((!special && !WindowOf(after)) || StandsThere(window, after)) pos.flags |= SWP_NOZORDER;
+}
+
+/// What becomes active comes to the front.
+void CompleteActivation(const Window& window, WINDOWPOS& pos) {
+    if (window.IsChild() || (pos.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))) return;
+    if ((pos.flags & SWP_NOZORDER) || !IsAnyTop(pos.hwndInsertAfter)) pos.hwndInsertAfter = HWND_TOP;
+    pos.flags &= ~SWP_NOZORDER;
+}
+
+/// Owned windows and their owners keep their order: what is told is where that leaves room.
+void MindOwners(const Window& window, WINDOWPOS& pos) {
+    const bool inPlace = (pos.flags & SWP_NOZORDER) && !(pos.flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW));
+    if (window.parent || inPlace) return;
+    pos.hwndInsertAfter = AboveOwner(window, pos.hwndInsertAfter);
+    for (HWND owned : OwnedBelow(window, pos.hwndInsertAfter)) {
+        ChangePosition({owned, pos.hwndInsertAfter, 0, 0, 0, 0, kQuietly});
+        pos.hwndInsertAfter = owned;
     }
-    if (after != HWND_TOP && after != HWND_BOTTOM && !WindowOf(after)) pos.flags |= SWP_NOZORDER;
-    if (old == window.exStyle && !OrderWouldChange(window, after)) pos.flags |= SWP_NOZORDER;
 }
 
 void Reorder(Window& window, const WINDOWPOS& pos) {
-    if (pos.flags & SWP_NOZORDER) return;
-    const bool first = pos.hwndInsertAfter == HWND_TOPMOST || pos.hwndInsertAfter == HWND_NOTOPMOST;
-    PlaceInOrder(window, first ? HWND_TOP : pos.hwndInsertAfter);
+    if (!(pos.flags & SWP_NOZORDER)) PlaceInOrder(window, pos.hwndInsertAfter);
 }
 
-RECT WithinFrame(RECT client, const RECT& frame) {
-    client.left = std::clamp(client.left, frame.left, frame.right);
-    client.top = std::clamp(client.top, frame.top, frame.bottom);
-    client.right = std::clamp(client.right, client.left, frame.right);
-    client.bottom = std::clamp(client.bottom, client.top, frame.bottom);
+/// A frame thicker than the window pushes the client area out of it.
+RECT Ordered(RECT client) {
+    client = ClampedRect(client);
+    client.right = std::max(client.right, client.left);
+    client.bottom = std::max(client.bottom, client.top);
     return client;
 }
 
@@ -68,7 +79,7 @@ RECT NewClient(Window& window, WINDOWPOS& pos, const RECT& frame) {
     NcCalcSize params{{frame, window.frame, window.client}, &pos};
     const HWND hWnd = window.self;
     SendMessageA(hWnd, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params));
-    return WithinFrame(params.rects[0], frame);
+    return Ordered(params.rects[0]);
 }
 
 void MarkClientChange(const Window& window, const RECT& client, bool anew, WINDOWPOS& pos) {
@@ -90,22 +101,23 @@ RECT CollapsedWhenMinimised(const Window& window, const RECT& frame, const RECT&
     return {frame.left, frame.top, frame.left, frame.top};
 }
 
-/// False when a handler destroyed the window.
-bool Apply(HWND hWnd, WINDOWPOS& pos, bool anew) {
+enum class Applied { WindowGone, NothingUncovered, Uncovered };
+
+Applied Apply(HWND hWnd, WINDOWPOS& pos, bool anew) {
     Window* window = WindowOf(hWnd);
     const RECT frame{pos.x, pos.y, pos.x + pos.cx, pos.y + pos.cy};
     const RECT client = NewClient(*window, pos, frame);
-    if (!(window = WindowOf(hWnd))) return false;
+    if (!(window = WindowOf(hWnd))) return Applied::WindowGone;
     MarkClientChange(*window, client, anew, pos);
     const KeptBits before = RememberBits(*window);
     Reorder(*window, pos);
     window->frame = frame;
     window->client = CollapsedWhenMinimised(*window, frame, client);
     StoreVisibility(*window, pos.flags);
-    MoveKeptBits(*window, before, pos.flags);
+    const bool uncovered = MoveKeptBits(*window, before, pos.flags);
     RetargetWindowDcs(RootOf(*window));
     SyncWithDesktop(*window);
-    return true;
+    return uncovered ? Applied::Uncovered : Applied::NothingUncovered;
 }
 
 void ActivateAfterChange(HWND hWnd, UINT flags) {
@@ -113,18 +125,24 @@ void ActivateAfterChange(HWND hWnd, UINT flags) {
     if (!window || (flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))) return;
     if (window->IsChild())
         SendMessageA(hWnd, WM_CHILDACTIVATE, 0, 0);
-    else if (window->Has(WS_VISIBLE))
+    else
         ActivateWindow(hWnd, false);
 }
 
-/// What has just come into sight shows its background at once.
-void EraseAfterChange(HWND hWnd, UINT flags) {
+/// What has just come into sight shows its background at once; so does a parent where a window left a place,
+/// with everything in it when it clips its children.
+void EraseAfterChange(HWND hWnd, UINT flags, Applied applied) {
     const Window* window = WindowOf(hWnd);
-    if (!window || (flags & SWP_NOREDRAW)) return;
-    const bool resizedTop = !window->parent && !(flags & SWP_NOSIZE);
-    if ((flags & SWP_SHOWWINDOW) || resizedTop) EraseNow(hWnd);
-    const bool uncovers = (flags & SWP_HIDEWINDOW) || !(flags & SWP_NOSIZE);
-    if (window = WindowOf(hWnd); window && window->parent && uncovers) EraseNow(window->parent->self);
+    if (!window || (flags & kSwpDeferErase)) return;
+    const bool redraws = !(flags & SWP_NOREDRAW);
+    const bool otherFrame = !(flags & SWP_NOSIZE) || (flags & SWP_FRAMECHANGED);
+    const bool otherOrder = !(flags & SWP_NOZORDER);
+    if (redraws && ((flags & SWP_SHOWWINDOW) || (otherFrame && !window->parent))) EraseTree(hWnd, true);
+    if (!(window = WindowOf(hWnd)) || !window->parent) return;
+    const Window& parent = *window->parent;
+    const bool concernsParent = applied == Applied::Uncovered || parent.Has(WS_CLIPCHILDREN);
+    if (concernsParent && (otherFrame || otherOrder || (flags & SWP_HIDEWINDOW)))
+        EraseTree(parent.self, true);
 }
 
 void TellChanged(HWND hWnd, WINDOWPOS& pos) {
@@ -132,21 +150,40 @@ void TellChanged(HWND hWnd, WINDOWPOS& pos) {
     if (IsWindow(hWnd)) SendMessageA(hWnd, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&pos));
 }
 
+/// Behind a window that stands elsewhere there is no place.
+bool IsPlace(Window& window, const WINDOWPOS& pos) {
+    const auto special = reinterpret_cast<LONG_PTR>(pos.hwndInsertAfter);
+    if ((pos.flags & SWP_NOZORDER) || (special >= -2 && special <= 1)) return true;
+    const Window* after = WindowOf(pos.hwndInsertAfter);
+    return after && after->parent == window.parent;
+}
+
 bool Change(WINDOWPOS pos, bool anew) {
     const HWND hWnd = pos.hwnd;
-    if (!WindowOf(hWnd)) return false;
-    if (!(pos.flags & SWP_NOSENDCHANGING))
-        SendMessageA(hWnd, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
     Window* window = WindowOf(hWnd);
     if (!window) return false;
+    if (!IsPlace(*window, pos)) return true;
+    if (!(pos.flags & SWP_NOSENDCHANGING))
+        SendMessageA(hWnd, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
+    if (!(window = WindowOf(hWnd))) return false;
     pos.hwnd = hWnd;
     Complete(*window, pos, anew);
+    CompleteActivation(*window, pos);
     CompleteOrder(*window, pos);
-    if (!Apply(hWnd, pos, anew)) return false;
+    MindOwners(*window, pos);
+    if (!WindowOf(hWnd)) return false;
+    const Applied applied = Apply(hWnd, pos, anew);
+    if (applied == Applied::WindowGone) return false;
     ActivateAfterChange(hWnd, pos.flags);
-    EraseAfterChange(hWnd, pos.flags);
+    EraseAfterChange(hWnd, pos.flags, applied);
     TellChanged(hWnd, pos);
     return true;
+}
+
+/// What a maximised window fills: its parent, or the screen.
+RECT RoomFor(const Window& window) {
+    return window.parent ? LocalRect(window.parent->ClientWidth(), window.parent->ClientHeight())
+                         : ScreenRect();
 }
 
 }  // namespace
@@ -162,13 +199,16 @@ bool HasSizeLimits(const Window& window) {
 }
 
 MINMAXINFO AskSizeLimits(HWND hWnd) {
-    constexpr int kTrackWidth = 116, kTrackHeight = 27;  // a caption with its buttons
-    RECT work{};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-    const int border = GetSystemMetrics(SM_CXFRAME);
-    const POINT whole{work.right - work.left + 2 * border, work.bottom - work.top + 2 * border};
-    MINMAXINFO limits{
-        {0, 0}, whole, {-border, -border}, {kTrackWidth, kTrackHeight}, {whole.x + 4, whole.y + 4}};
+    constexpr POINT kCaptionAndButtons{116, 27};
+    const Window* window = WindowOf(hWnd);
+    const RECT screen = ScreenRect(), room = RoomFor(*window);
+    const LONG border = FrameMargins(window->style, window->exStyle).left,
+               widest = GetSystemMetrics(SM_CXFRAME) + 2;
+    MINMAXINFO limits{{0, 0},
+                      {room.right + 2 * border, room.bottom + 2 * border},
+                      {-border, -border},
+                      window->Has(WS_CAPTION) ? kCaptionAndButtons : POINT{2 * border, 2 * border},
+                      {screen.right + 2 * widest, screen.bottom + 2 * widest}};
     SendMessageA(hWnd, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     return limits;
 }
@@ -178,8 +218,7 @@ void CalculateFirstClient(HWND hWnd) {
     const POINT origin = window->parent ? ClientOrigin(*window->parent) : POINT{0, 0};
     RECT rect = FrameOnScreen(*window);
     SendMessageA(hWnd, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&rect));
-    if ((window = WindowOf(hWnd)))
-        window->client = WithinFrame(MovedRect(ClampedRect(rect), -origin.x, -origin.y), window->frame);
+    if ((window = WindowOf(hWnd))) window->client = MovedRect(Ordered(rect), -origin.x, -origin.y);
 }
 
 void SendSizeAndMove(HWND hWnd) {

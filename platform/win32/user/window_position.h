@@ -8,6 +8,7 @@ namespace tavlon::win32 {
 // Bits of WINDOWPOS::flags beyond the public ones.
 constexpr UINT kSwpNoClientSize = 0x0800u;
 constexpr UINT kSwpNoClientMove = 0x1000u;
+constexpr UINT kSwpDeferErase = 0x2000u;
 constexpr UINT kSwpStateChanged = 0x8000u;
 
 /// What WM_NCCALCSIZE carries with wParam TRUE.

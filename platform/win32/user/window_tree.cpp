@@ -10,6 +10,8 @@ namespace tavlon::win32 {
 
 namespace {
 
+bool IsTopMost(const Window& window) { return (window.exStyle & WS_EX_TOPMOST) != 0; }
+
 /// Index behind the last top-most window: where an ordinary top-level window may begin.
 std::size_t FirstOrdinary(const std::vector<Window*>& order) {
     const auto ordinary = [](const Window* window) { return !(window->exStyle & WS_EX_TOPMOST); };
@@ -24,10 +26,25 @@ std::size_t IndexBehind(const std::vector<Window*>& order, HWND after) {
 
 /// Where in `order` (which does not hold the window) it goes.
 std::size_t PlaceFor(const Window& window, const std::vector<Window*>& order, HWND after) {
-    std::size_t place = after == HWND_BOTTOM ? order.size() : IndexBehind(order, after);
-    if (window.parent) return place;
-    const std::size_t limit = FirstOrdinary(order);
-    return (window.exStyle & WS_EX_TOPMOST) ? std::min(place, limit) : std::max(place, limit);
+    if (after == HWND_BOTTOM) return order.size();
+    if (after == HWND_TOP && !window.parent && !IsTopMost(window)) return FirstOrdinary(order);
+    return IndexBehind(order, after);
+}
+
+/// Ordinary windows stand below all top-most ones: a place among the others makes it one of them.
+void FollowNeighbours(Window& window, const std::vector<Window*>& order, std::size_t place) {
+    const bool loses = place > 0 && !IsTopMost(*order[place - 1]);
+    const bool gains = place < order.size() && IsTopMost(*order[place]);
+    if (loses) window.exStyle &= ~WS_EX_TOPMOST;
+    if (gains) window.exStyle |= WS_EX_TOPMOST;
+}
+
+/// HWND_TOPMOST and HWND_NOTOPMOST make it another kind of window, which then goes to the top.
+HWND ChangeKind(Window& window, HWND after) {
+    if (after != HWND_TOPMOST && after != HWND_NOTOPMOST) return after;
+    if (!window.parent) window.exStyle &= ~WS_EX_TOPMOST;
+    if (!window.parent && after == HWND_TOPMOST) window.exStyle |= WS_EX_TOPMOST;
+    return HWND_TOP;
 }
 
 /// Owned windows stay above their owner; what was below it comes to stand directly above.
@@ -44,19 +61,13 @@ void LiftOwned(std::vector<Window*>& order) {
 std::vector<Window*> OrderWith(Window& window, HWND after) {
     std::vector<Window*> order = SiblingsOf(window);
     std::erase(order, &window);
-    const auto place = static_cast<std::ptrdiff_t>(PlaceFor(window, order, after));
-    order.insert(order.begin() + place, &window);
-    if (!window.parent) LiftOwned(order);
+    const std::size_t place = PlaceFor(window, order, ChangeKind(window, after));
+    if (!window.parent) FollowNeighbours(window, order, place);
+    order.insert(order.begin() + static_cast<std::ptrdiff_t>(place), &window);
     return order;
 }
 
 HWND HandleOrNull(const Window* window) { return window ? window->self : nullptr; }
-
-Window* RootOwner(Window& window) {
-    Window* root = &RootOf(window);
-    while (Window* owner = root->owner ? WindowOf(root->owner) : nullptr) root = &RootOf(*owner);
-    return root;
-}
 
 /// A window's children, or the top-level windows for null and the desktop.
 const std::vector<Window*>* ListUnder(HWND hWnd) {
@@ -102,13 +113,55 @@ void Rehang(Window& window, Window* parent) {
 
 }  // namespace
 
-bool OrderWouldChange(Window& window, HWND after) { return OrderWith(window, after) != SiblingsOf(window); }
+HWND AboveOwner(const Window& window, HWND after) {
+    if (!window.owner || after == HWND_TOPMOST) return after;
+    const bool toTop = after == HWND_TOP || after == HWND_NOTOPMOST;
+    HWND last = HWND_TOP;
+    for (const Window* other : TopLevels()) {
+        if (other->self == window.owner) return last;
+        if (other->self == after || (toTop && !IsTopMost(*other))) return after;
+        last = other->self;
+    }
+    return after;
+}
+
+std::vector<HWND> OwnedBelow(const Window& window, HWND after) {
+    std::vector<HWND> owned;
+    const bool first = after == HWND_TOPMOST || (after == HWND_TOP && IsTopMost(window));
+    bool below = first;
+    for (const Window* other : TopLevels()) {
+        if (IsAnyTop(after) && !IsTopMost(*other)) below = true;
+        if (below && other->owner == window.self) owned.push_back(other->self);
+        if (other->self == after) below = true;
+    }
+    return owned;
+}
+
+bool IsAnyTop(HWND after) {
+    return after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
+}
+
+bool StandsThere(Window& window, HWND after) {
+    const Window* above = Neighbour(window, -1);
+    if (after == window.self) return true;
+    if (after == HWND_TOPMOST && !window.parent) return !above && IsTopMost(window);
+    if (after == HWND_NOTOPMOST && !window.parent) return !IsTopMost(window);
+    if (IsAnyTop(after)) return !above;
+    if (after == HWND_BOTTOM) return !Neighbour(window, 1);
+    return above && above->self == after;
+}
 
 bool PlaceInOrder(Window& window, HWND after) {
+    if (after == window.self) return false;
     std::vector<Window*> order = OrderWith(window, after);
     const bool changed = order != SiblingsOf(window);
     SiblingsOf(window) = std::move(order);
     return changed;
+}
+
+void RaiseWithOwned(Window& window) {
+    PlaceInOrder(window, HWND_TOP);
+    LiftOwned(TopLevels());
 }
 
 void TakeFromOrder(Window& window) { std::erase(SiblingsOf(window), &window); }
@@ -141,6 +194,12 @@ HWND GetParent(HWND hWnd) {
     return window->Has(WS_CHILD) ? HandleOrNull(window->parent) : nullptr;
 }
 
+/// The parents as GetParent tells them: an owned window that is no popup has none.
+static HWND RootOwner(HWND hWnd) {
+    while (const HWND hParent = GetParent(hWnd)) hWnd = hParent;
+    return hWnd;
+}
+
 HWND GetAncestor(HWND hWnd, UINT nFlags) {
     Window* window = WindowOf(hWnd);
     if (!window) return nullptr;
@@ -150,7 +209,7 @@ HWND GetAncestor(HWND hWnd, UINT nFlags) {
         case GA_ROOT:
             return RootOf(*window).self;
         case GA_ROOTOWNER:
-            return RootOwner(*window)->self;
+            return RootOwner(hWnd);
         default:
             return nullptr;
     }

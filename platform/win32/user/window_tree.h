@@ -9,8 +9,16 @@ constexpr int kMaxNesting = 100;
 
 /// Puts the window into its list behind `after` (HWND_TOP and its like allowed). True when the order changed.
 bool PlaceInOrder(Window& window, HWND after);
-/// Whether placing it there would change anything.
-bool OrderWouldChange(Window& window, HWND after);
+/// To the front, with the windows it owns in front of it.
+void RaiseWithOwned(Window& window);
+/// Where a window has to go that is to stand behind `after`, but above its owner.
+HWND AboveOwner(const Window& window, HWND after);
+/// The windows it owns below `after` that are top-most as it is, or are not; topmost first.
+std::vector<HWND> OwnedBelow(const Window& window, HWND after);
+/// HWND_TOP, HWND_TOPMOST or HWND_NOTOPMOST
+bool IsAnyTop(HWND after);
+/// Whether it stands there already: directly behind that window, or first or last of all.
+bool StandsThere(Window& window, HWND after);
 void TakeFromOrder(Window& window);
 void SetOwner(Window& window, HWND owner);
 int NestingOf(const Window& window);

@@ -1,0 +1,148 @@
+// Wheel, minute chart, pies, price radar and histogram.
+#include <cstdio>
+#include <string>
+
+#include "scenes/control_scenes.h"
+
+namespace scenes::controls {
+
+namespace {
+
+constexpr const char* kSectors[] = {"银行",   "房地产", "酿酒食品", "有色金属", "军工",
+                                    "半导体", "新能源", "医药",     "电力",     "互联网金融"};
+
+std::string Numbered(const char* text, int number) { return text + std::to_string(number); }
+
+/// The text as the wrappers that ask for a char pointer want it.
+std::string TitleText(Dice& dice) {
+    const CString title = AnyTitle(dice);
+    return static_cast<const char*>(title);
+}
+
+}  // namespace
+
+void Wheel(Stage& stage) {
+    TakeControl<CProxy_BR>(stage, [&](CProxy_BR& wheel) {
+        Dice& dice = stage.dice;
+        CArray<tagmyBRData, tagmyBRData&> sectors;
+        for (int i = dice.OneIn(5) ? dice.Between(0, 2) : dice.Between(3, 40); i > 0; --i) {
+            tagmyBRData sector{};
+            Set(sector.name, CString(Numbered(dice.Of(kSectors), i).c_str()));
+            sector.value = static_cast<float>(Number(dice, -20, 20));
+            sectors.Add(sector);
+        }
+        tagBlocksInfo info{};
+        Set(info.title, AnyTitle(dice));
+        if (sectors.GetSize() > 0 && Changes(dice))
+            Set(info.current,
+                CString(sectors[dice.Between(0, static_cast<int>(sectors.GetSize()) - 1)].name));
+        wheel.Init(sectors, info);
+        CTime time = AnyTime(dice);
+        if (Changes(dice)) wheel.SetUpdateTime(time);
+        wheel.Play();
+        wheel.ReDraw();
+    });
+}
+
+void MinuteChart(Stage& stage) {
+    TakeControl<CProxy_ChartOL>(stage, [&](CProxy_ChartOL& chart) {
+        Dice& dice = stage.dice;
+        tagStockItem stock{};
+        Set(stock.szCode, CString("600000"));
+        Set(stock.szName, CString("浦发银行"));
+        stock.fPreClose = static_cast<float>(Number(dice, 5, 60));
+        stock.nDecimal = dice.Between(dice.OneIn(5) ? -1 : 2, 3);
+        chart.Init(stock);
+        float price = stock.fPreClose, volume = 0;
+        for (int minute = 0, last = dice.Between(1, 240); minute < last; ++minute) {
+            if (dice.OneIn(8)) continue;
+            const int clock = minute < 120 ? 9 * 60 + 31 + minute : 13 * 60 + 1 + minute - 120;
+            price *= 1 + static_cast<float>(dice.Between(-60, 60)) / 10000;
+            volume += static_cast<float>(dice.Between(0, 5000));
+            tagmyMinuteData data{};
+            data.dwKey = 1;
+            data.nTime = static_cast<unsigned>(clock / 60 * 10000 + clock % 60 * 100);
+            data.fPrice = price, data.fVolume = volume;
+            data.fMainNetBuy = static_cast<float>(dice.OneIn(3) ? 0 : dice.Between(-900, 900));
+            chart.SetData(data);
+        }
+        chart.Play();
+    });
+}
+
+void MoneyFlowPies(Stage& stage) {
+    TakeControl<CProxy_PieChartCtrl>(stage, [&](CProxy_PieChartCtrl& pies) {
+        Dice& dice = stage.dice;
+        pies.Init();
+        for (int i = dice.OneIn(6) ? dice.Between(0, 2) : dice.Between(4, 30); i > 0; --i) {
+            tagPieChartData item{};
+            item.dValue = Number(dice, 0, 8000);
+            Set(item.szName, CString(Numbered(dice.Of(kSectors), i).c_str()));
+            item.nId = i, item.nType = dice.Between(0, 1);
+            pies.SetData(item);
+        }
+        std::string top = TitleText(dice), bottom = TitleText(dice);
+        if (Changes(dice)) pies.SetSumTipTitleTopText(top.data());
+        if (Changes(dice)) pies.SetSumTipTitleBottomText(bottom.data());
+        if (Changes(dice)) pies.SetBackColor(dice.Colour());
+        if (Changes(dice)) pies.SetCircleBackgroundColor(dice.Colour());
+        if (Changes(dice)) pies.SetPieBorderColor(dice.Colour());
+        if (Changes(dice)) pies.SetSeparateLineColor(dice.Colour());
+        if (Changes(dice)) pies.SetSumTipTitleColor(dice.Colour());
+        if (Changes(dice)) pies.SetSumTipContxtColor(dice.Colour());
+        pies.Play();
+    });
+}
+
+void PriceRadar(Stage& stage) {
+    TakeControl<CProxy_PriceRadarCtrl>(stage, [&](CProxy_PriceRadarCtrl& radar) {
+        Dice& dice = stage.dice;
+        radar.Init();
+        for (int i = dice.Between(0, 60); i > 0; --i) {
+            tagPriceRadarItemData item{};
+            item.dValue = Number(dice, 0, 900) + 0.5;
+            item.nId = i, item.nType = dice.Between(0, 1), item.nIndex = dice.Between(0, 7);
+            item.nDate = 20150601 + 7 - item.nIndex;
+            radar.SetData(item);
+        }
+        std::string title = TitleText(dice);
+        if (Changes(dice)) radar.SetTitleText(title.data());
+        if (Changes(dice)) radar.SetTitleFontColor(dice.Colour());
+        if (Changes(dice)) radar.SetTitleBackColor(dice.Colour());
+        if (Changes(dice)) radar.SetBackColor(dice.Colour());
+        if (Changes(dice)) radar.SetLeftBorderColor(dice.Colour()), radar.SetTopBorderColor(dice.Colour());
+        if (Changes(dice))
+            radar.SetRightBorderColor(dice.Colour()), radar.SetBottomBorderColor(dice.Colour());
+        if (Changes(dice)) radar.SetTitleFontSize(dice.Between(10, 24));
+        if (Changes(dice)) radar.SetTitleHeight(dice.Between(10, 50));
+        if (Changes(dice)) radar.SetLabelHeight(dice.Between(10, 40));
+        if (Changes(dice)) radar.SetSelectId(dice.Between(0, 40));
+        radar.Play();
+    });
+}
+
+void Histogram(Stage& stage) {
+    TakeControl<CProxy_HistogramCtrl>(stage, [&](CProxy_HistogramCtrl& chart) {
+        Dice& dice = stage.dice;
+        chart.Init();
+        const int most = dice.Of({2, 50, 9000});
+        for (int i = dice.Between(0, 21); i > 0; --i) {
+            tagHistogramData bar{};
+            bar.dXValue = Number(dice, 0, 300) + 0.5, bar.dYValue = Number(dice, 0, most) + 0.5, bar.nId = i;
+            chart.SetData(bar);
+        }
+        chart.Play();
+        if (Changes(dice)) chart.SetIndex(dice.Between(0, 20));
+        if (Changes(dice)) chart.SetCoordinateShaftColor(dice.Colour());
+        if (Changes(dice)) chart.SetGirdColor(dice.Colour());
+        if (Changes(dice)) chart.SetBackColor(dice.Colour());
+        if (Changes(dice)) chart.SetCoordinateShaftFontColor(dice.Colour());
+        if (Changes(dice)) chart.SetCoordinateShaftTitleColor(dice.Colour());
+        chart.DisplayGird(!dice.OneIn(4));
+        std::string x = TitleText(dice), y = TitleText(dice);
+        if (Changes(dice)) chart.SetXTitle(x.data());
+        if (Changes(dice)) chart.SetYTitle(y.data());
+    });
+}
+
+}  // namespace scenes::controls

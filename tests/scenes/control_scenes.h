@@ -1,0 +1,23 @@
+/// What each control is fed for its pictures.
+#pragma once
+
+#include "scenes/control_stage.h"
+
+namespace scenes::controls {
+
+void ValueRadar(Stage&);
+void ValueRadarHover(Stage&);
+void ValueRadarOddSizes(Stage&);
+void PointRadar(Stage&);
+void StarChart(Stage&);
+void Wheel(Stage&);
+void MinuteChart(Stage&);
+void MoneyFlowPies(Stage&);
+void PriceRadar(Stage&);
+void Histogram(Stage&);
+void RiskBar(Stage&);
+void PositionBar(Stage&);
+void PressureLadder(Stage&);
+void TabStrip(Stage&);
+
+}  // namespace scenes::controls
