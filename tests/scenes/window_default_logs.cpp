@@ -139,7 +139,9 @@ void Look(WindowLog& log, Dice& dice) {
                                  {WM_QUIT, WM_QUIT}};
     const Asked& range = dice.Of(kRanges);
     const HWND hWnd = dice.OneIn(3) ? log.Any(dice) : nullptr;
-    const bool remove = !dice.OneIn(4);
+    // A paint that was asked for without an update region need not survive being looked at.
+    const bool mayPaint = range.first <= WM_PAINT;
+    const bool remove = !dice.OneIn(4) || mayPaint;
     MSG msg{};
     const BOOL any = PeekMessage(&msg, hWnd, range.first, range.last, remove ? PM_REMOVE : PM_NOREMOVE);
     log.Line("* look at %s %x-%x, remove %d: %d", log.NameOf(hWnd).c_str(), range.first, range.last, remove,

@@ -14,38 +14,76 @@ constexpr std::uint32_t kLightness[kLevels + 1] = {0,   77,  104, 124, 140, 154,
 
 unsigned LevelOf(unsigned coverage) { return coverage * (kLevels + 1) >> 8; }
 
-/// Between paper and ink at the place where the level stands between the ink and the far end of the scale on
-/// the paper's side: black under light ink, white under dark ink.
-std::uint32_t MixChannel(std::uint32_t paper, std::uint32_t ink, unsigned level) {
-    if (paper < ink) {
-        const std::uint32_t rest = ink - ink * kLightness[level] / 255;
-        return ink - (ink - paper) * rest / ink;
+/// One channel of an ink on any paper: between the two at the place where the level stands between the ink
+/// and the far end of the scale on the paper's side, which is black under light ink and white under dark ink.
+class InkChannel {
+public:
+    InkChannel() = default;
+    explicit InkChannel(std::uint32_t ink) : m_ink(ink), m_below(ink), m_above(255 - ink) {
+        for (unsigned level = 0; level <= kLevels; ++level) {
+            m_below.rest[level] = ink - ink * kLightness[level] / 255;
+            m_above.rest[level] = (255 - ink) * kLightness[kLevels - level] / 255;
+        }
     }
-    if (paper == ink) return ink;
-    const std::uint32_t scale = 255 - ink, rest = scale * kLightness[kLevels - level] / 255;
-    return ink + (paper - ink) * rest / scale;
-}
+    std::uint32_t Over(std::uint32_t paper, unsigned level) const {
+        return paper < m_ink ? m_ink - m_below.Share(m_ink - paper, level)
+                             : m_ink + m_above.Share(paper - m_ink, level);
+    }
 
-std::uint32_t MixPixel(std::uint32_t paper, std::uint32_t ink, unsigned level) {
-    std::uint32_t mixed = 0;
-    for (unsigned shift = 0; shift < 24; shift += 8)
-        mixed |= MixChannel(paper >> shift & 0xff, ink >> shift & 0xff, level) << shift;
-    return mixed;
-}
+private:
+    /// What is left of the distance to the ink, on one side of it.
+    struct Side {
+        Side() = default;
+        explicit Side(std::uint32_t scale) : inverse(scale ? (1u << 24) / scale + 1 : 0) {}
+        /// distance * rest / scale; multiplying is quicker, and exact for numbers below 2^16 over at most
+        /// 255.
+        std::uint32_t Share(std::uint32_t distance, unsigned level) const {
+            return static_cast<std::uint32_t>(std::uint64_t{distance} * rest[level] * inverse >> 24);
+        }
+        std::uint32_t inverse = 0;
+        std::uint32_t rest[kLevels + 1] = {};
+    };
+    std::uint32_t m_ink = 0;
+    Side m_below, m_above;
+};
 
-void BlendPixel(std::uint32_t& pixel, std::uint32_t ink, unsigned coverage) {
-    const unsigned level = LevelOf(coverage);
-    if (level < kFaintest) return;
-    pixel = level == kLevels ? ink : MixPixel(pixel, ink, level);
+/// An ink whose mixes are worked out.
+class Ink {
+public:
+    Ink() = default;
+    explicit Ink(std::uint32_t pixel) : m_pixel(pixel) {
+        for (unsigned i = 0; i < 3; ++i) m_channels[i] = InkChannel(pixel >> 8 * i & 0xff);
+    }
+    std::uint32_t Pixel() const { return m_pixel; }
+    void Put(std::uint32_t& pixel, unsigned coverage) const {
+        const unsigned level = LevelOf(coverage);
+        if (level < kFaintest) return;
+        pixel = level == kLevels ? m_pixel : Mixed(pixel, level);
+    }
+
+private:
+    std::uint32_t Mixed(std::uint32_t paper, unsigned level) const {
+        std::uint32_t mixed = 0;
+        for (unsigned i = 0; i < 3; ++i) mixed |= m_channels[i].Over(paper >> 8 * i & 0xff, level) << 8 * i;
+        return mixed;
+    }
+
+    std::uint32_t m_pixel = 0;
+    InkChannel m_channels[3] = {InkChannel(0), InkChannel(0), InkChannel(0)};
+};
+
+/// Texts come in few colours: the last one's mixes are kept.
+const Ink& InkOf(std::uint32_t pixel) {
+    static thread_local Ink s_ink;
+    if (s_ink.Pixel() != pixel) s_ink = Ink(pixel);
+    return s_ink;
 }
 
 /// Part of a glyph, in surface pixels; the coverage of its first pixel is at `coverage`.
-void BlendBox(Surface& surface, const RECT& box, const std::uint8_t* coverage, int pitch, std::uint32_t ink) {
+void BlendBox(Surface& surface, const RECT& box, const std::uint8_t* coverage, int pitch, const Ink& ink) {
     for (int y = box.top; y < box.bottom; ++y, coverage += pitch) {
         std::uint32_t* row = surface.Row32(y);
-        for (int x = box.left; x < box.right; ++x) {
-            BlendPixel(row[x], ink, coverage[x - box.left]);
-        }
+        for (int x = box.left; x < box.right; ++x) ink.Put(row[x], coverage[x - box.left]);
     }
 }
 
@@ -55,7 +93,7 @@ void BlendCoverage(DeviceContext& dc, int x, int y, int width, int height, const
                    COLORREF colour) {
     const RECT place = FromSize(x, y, width, height);
     if (!coverage || !MayDraw(dc, place)) return;
-    const std::uint32_t ink = InkPixelOf(dc, colour);
+    const Ink& ink = InkOf(InkPixelOf(dc, colour));
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dc).Boxes(count);
     for (int i = 0; i < count; ++i) {

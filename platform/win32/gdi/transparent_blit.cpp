@@ -21,13 +21,14 @@ void CopyVisible(Surface& dst, const RECT& box, Surface& src, int dx, int dy, st
     }
 }
 
-/// Draws the sprite whose pixel (0, 0) comes to the corner of `place`.
-void Sprite(DeviceContext& dst, const RECT& place, Surface& src, std::uint32_t leftOut) {
+/// Draws the sprite whose pixel `from` comes to the corner of `place`.
+void Sprite(DeviceContext& dst, const RECT& place, Surface& src, POINT from, std::uint32_t leftOut) {
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dst).Boxes(count);
     for (int i = 0; i < count; ++i) {
         const RECT box = Intersection(place, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});
-        if (!IsEmpty(box)) CopyVisible(*dst.surface, box, src, -place.left, -place.top, leftOut);
+        if (!IsEmpty(box))
+            CopyVisible(*dst.surface, box, src, from.x - place.left, from.y - place.top, leftOut);
     }
     NoteDamage(dst, place);
 }
@@ -43,10 +44,45 @@ DeviceContext WorkSheet(const DeviceContext& dst, const RECT& part) {
     return work;
 }
 
+/// Whether a part of the source can be drawn as it stands: it is all there, in colours, and not drawn on
+/// itself.
+bool IsReady(const DeviceContext& dst, const DeviceContext& src, const RECT& part) {
+    return src.surface != dst.surface && src.surface->BitsPerPixel() == 32 &&
+           dst.surface->BitsPerPixel() == 32 &&
+           Covers(Intersection(src.visible.Bounds(), src.surface->Bounds()), part);
+}
+
+/// A sprite as TransparentBlt is asked for it, in surface pixels.
+struct Request {
+    Extent toX, toY, fromX, fromY;
+
+    bool SameSize() const { return toX.length == fromX.length && toY.length == fromY.length; }
+    /// The source pixel that comes to a pixel of the destination, of a sprite that keeps its size.
+    POINT Source(int x, int y) const {
+        return {Saturate(std::int64_t{fromX.start} + x - toX.start),
+                Saturate(std::int64_t{fromY.start} + y - toY.start)};
+    }
+};
+
+/// The sprite is drawn on a black sheet first, which shows where the source ends or when it has no pixels at
+/// all.
+bool DrawBySheet(DeviceContext& dst, const RECT& part, DeviceContext& src, Request request,
+                 COLORREF leftOut) {
+    DeviceContext work = WorkSheet(dst, part);
+    if (!work.surface) return false;
+    request.toX.start -= part.left, request.toY.start -= part.top;
+    if (request.SameSize())
+        Transfer(work, FromSize(request.toX.start, request.toY.start, request.toX.length, request.toY.length),
+                 src, {request.fromX.start, request.fromY.start}, SRCCOPY);
+    else if (request.fromX.length != 0 && request.fromY.length != 0)
+        TransferStretched(work, src, {request.toX, request.toY, request.fromX, request.fromY}, BLACKONWHITE,
+                          SRCCOPY);
+    Sprite(dst, part, *work.surface, {0, 0}, PixelOf(work, leftOut));
+    return true;
+}
+
 }  // namespace
 
-// The sprite is drawn on a black sheet first, which shows where the source ends or when it has no pixels at
-// all.
 BOOL TransparentBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xSrc, int ySrc, int cxSrc,
                     int cySrc, UINT clrTransparent) {
     DeviceContext* dst = DcOf(hdcDst);
@@ -56,13 +92,11 @@ BOOL TransparentBlt(HDC hdcDst, int x, int y, int cx, int cy, HDC hdcSrc, int xS
     const POINT to = ToSurface(*dst, x, y), from = ToSurface(*src, xSrc, ySrc);
     const RECT part = Intersection(FromSize(to.x, to.y, cx, cy), ClipBounds(*dst));
     if (IsEmpty(part)) return TRUE;
-    DeviceContext work = WorkSheet(*dst, part);
-    if (!work.surface) return FALSE;
-    const Extent toX{to.x - part.left, cx}, toY{to.y - part.top, cy};
-    if (cx == cxSrc && cy == cySrc)
-        Transfer(work, FromSize(toX.start, toY.start, cx, cy), *src, from, SRCCOPY);
-    else if (cxSrc != 0 && cySrc != 0)
-        TransferStretched(work, *src, {toX, toY, {from.x, cxSrc}, {from.y, cySrc}}, BLACKONWHITE, SRCCOPY);
-    Sprite(*dst, part, *work.surface, PixelOf(work, clrTransparent));
+    const Request request{{to.x, cx}, {to.y, cy}, {from.x, cxSrc}, {from.y, cySrc}};
+    const POINT first = request.Source(part.left, part.top);
+    const RECT wanted = FromSize(first.x, first.y, part.right - part.left, part.bottom - part.top);
+    if (!request.SameSize() || !IsReady(*dst, *src, wanted))
+        return DrawBySheet(*dst, part, *src, request, clrTransparent);
+    Sprite(*dst, part, *src->surface, first, PixelOf(*src, clrTransparent));
     return TRUE;
 }

@@ -120,7 +120,7 @@ void LeaveHiddenWindow(HWND hWnd) {
 }
 
 void ForgetActivation(HWND hWnd) {
-    if (g_active == hWnd) g_active = nullptr;
+    if (g_active == hWnd) g_active = nullptr, g_foreground = false;
     if (g_focus == hWnd) g_focus = nullptr;
 }
 

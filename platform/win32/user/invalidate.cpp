@@ -46,12 +46,23 @@ void DropMarksWhenValid(Window& window) {
     window.needsErase = window.eraseRefused = window.needsFramePaint = false;
 }
 
+/// The part of the client area that siblings cover, relative to the frame.
+Region CoveredClient(Window& window) {
+    Region covered = FrameInParents(window);
+    covered.Subtract(VisibleFrame(window));
+    const POINT at = FrameOnSurface(window);
+    covered.Translate(-at.x, -at.y);
+    covered.Intersect(ClientArea(window));
+    return covered;
+}
+
 /// The parameter of WM_NCPAINT: 1 for the whole window, else a region on the screen.
-HRGN FrameRegion(const Window& window) {
+HRGN FrameRegion(Window& window) {
     const Region whole(LocalRect(window.Width(), window.Height()));
     if (window.update == whole) return reinterpret_cast<HRGN>(static_cast<LONG_PTR>(1));
     const HRGN hRgn = CreateRectRgn(0, 0, 0, 0);
     Region onScreen = window.update;
+    onScreen.Subtract(CoveredClient(window));
     const POINT at = FrameOrigin(window);
     onScreen.Translate(at.x, at.y);
     if (pixman_region32_t* raw = RegionOf(hRgn)) pixman_region32_copy(raw, onScreen.Raw());
@@ -62,6 +73,12 @@ HRGN FrameRegion(const Window& window) {
 bool ParentPaintsFirst(const Window& window) {
     for (const Window* parent = window.parent; parent; parent = parent->parent)
         if (!parent->Has(WS_CLIPCHILDREN) && !parent->update.Empty()) return true;
+    return false;
+}
+
+bool ParentWantsPaint(const Window& window) {
+    for (const Window* parent = window.parent; parent; parent = parent->parent)
+        if (!parent->Has(WS_CLIPCHILDREN) && NeedsPaint(*parent)) return true;
     return false;
 }
 
@@ -185,7 +202,8 @@ bool NeedsPaint(const Window& window) { return window.internalPaint || !window.u
 Window* FindWindowToPaint(HWND below) {
     if (below) {
         Window* window = WindowOf(below);
-        return window && IsVisible(*window) ? FindToPaint(*window) : nullptr;
+        const bool itsTurn = window && IsVisible(*window) && !ParentWantsPaint(*window);
+        return itsTurn ? FindToPaint(*window) : nullptr;
     }
     for (Window* window : TopLevels())
         if (Window* found = FindToPaint(*window)) return found;

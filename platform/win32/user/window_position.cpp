@@ -137,10 +137,12 @@ void EraseAfterChange(HWND hWnd, UINT flags, Applied applied) {
     const bool redraws = !(flags & SWP_NOREDRAW);
     const bool otherFrame = !(flags & SWP_NOSIZE) || (flags & SWP_FRAMECHANGED);
     const bool otherOrder = !(flags & SWP_NOZORDER);
-    if (redraws && ((flags & SWP_SHOWWINDOW) || (otherFrame && !window->parent))) EraseTree(hWnd, true);
-    if (!(window = WindowOf(hWnd)) || !window->parent) return;
+    const bool shows = (flags & SWP_SHOWWINDOW) != 0;
+    if (redraws && (shows || (!window->parent && (otherFrame || otherOrder)))) EraseTree(hWnd, true);
+    if (shows || !(window = WindowOf(hWnd)) || !window->parent) return;
     const Window& parent = *window->parent;
-    const bool concernsParent = applied == Applied::Uncovered || parent.Has(WS_CLIPCHILDREN);
+    const bool concernsParent =
+        applied == Applied::Uncovered || parent.Has(WS_CLIPCHILDREN) || !window->Has(WS_VISIBLE);
     if (concernsParent && (otherFrame || otherOrder || (flags & SWP_HIDEWINDOW)))
         EraseTree(parent.self, true);
 }
@@ -167,6 +169,7 @@ bool Change(WINDOWPOS pos, bool anew) {
         SendMessageA(hWnd, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
     if (!(window = WindowOf(hWnd))) return false;
     pos.hwnd = hWnd;
+    const UINT asked = pos.flags;
     Complete(*window, pos, anew);
     CompleteActivation(*window, pos);
     CompleteOrder(*window, pos);
@@ -175,7 +178,7 @@ bool Change(WINDOWPOS pos, bool anew) {
     const Applied applied = Apply(hWnd, pos, anew);
     if (applied == Applied::WindowGone) return false;
     ActivateAfterChange(hWnd, pos.flags);
-    EraseAfterChange(hWnd, pos.flags, applied);
+    EraseAfterChange(hWnd, pos.flags | (asked & SWP_SHOWWINDOW), applied);
     TellChanged(hWnd, pos);
     return true;
 }
