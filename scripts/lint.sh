@@ -7,6 +7,7 @@ sources=$(git ls-files -- '*.cpp' '*.h')
 # shellcheck disable=SC2086
 clang-format --dry-run --Werror $sources
 scripts/check_includes.sh
+scripts/check_budgets.sh
 quietly cmake --preset release -DBUILD_TESTING=ON
 # GBK literals are the compiler's business; clang reads the same files with the charset it knows.
 # shellcheck disable=SC2086

@@ -16,10 +16,23 @@ constexpr DWORD kFrames[] = {0,
                              WS_CAPTION | WS_SYSMENU,
                              WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX};
 
+bool OwnsAny(const WindowLog& log, HWND hWnd) {
+    const std::vector<HWND> living = log.Living();
+    return std::any_of(living.begin(), living.end(),
+                       [hWnd](HWND hOther) { return GetWindow(hOther, GW_OWNER) == hWnd; });
+}
+
+bool HasOwned(const WindowLog& log) {
+    const std::vector<HWND> living = log.Living();
+    return std::any_of(living.begin(), living.end(), [](HWND hWnd) { return GetWindow(hWnd, GW_OWNER); });
+}
+
 void Showing(WindowLog& log, Dice& dice, HWND hWnd) {
     constexpr int kShows[] = {SW_HIDE,   SW_HIDE,           SW_SHOW,      SW_SHOW,
                               SW_SHOWNA, SW_SHOWNOACTIVATE, SW_SHOWNORMAL};
-    const int show = dice.Of(kShows);
+    int show = dice.Of(kShows);
+    // Where owned windows stand when their owner becomes active depends on the display.
+    if (show != SW_HIDE && OwnsAny(log, hWnd)) show = SW_SHOWNA;
     log.Line("* show %s %d", log.NameOf(hWnd).c_str(), show);
     const BOOL was = ShowWindow(hWnd, show);
     log.Line("= %d", was);
@@ -42,12 +55,6 @@ void Placing(WindowLog& log, Dice& dice, HWND hWnd) {
     MoveWindow(hWnd, at.x, at.y, cx, cy, repaint);
 }
 
-bool OwnsAny(const WindowLog& log, HWND hWnd) {
-    const std::vector<HWND> living = log.Living();
-    return std::any_of(living.begin(), living.end(),
-                       [hWnd](HWND hOther) { return GetWindow(hOther, GW_OWNER) == hWnd; });
-}
-
 void Ordering(WindowLog& log, Dice& dice, HWND hWnd) {
     constexpr UINT kFlags[] = {0,
                                0,
@@ -67,8 +74,10 @@ void Ordering(WindowLog& log, Dice& dice, HWND hWnd) {
     const bool child = (GetWindowLong(hWnd, GWL_STYLE) & WS_CHILD) != 0;
     // The display takes the keyboard from a hidden window whenever it likes.
     if (!child) flags &= ~SWP_HIDEWINDOW;
-    // Where owned windows stand when their owner becomes active depends on the display.
+    // Where owned windows stand when their owner becomes active depends on the display, and so it does when
+    // a window changes its place without changing the order.
     if (OwnsAny(log, hWnd)) flags |= SWP_NOACTIVATE;
+    if (!child && HasOwned(log)) flags |= SWP_NOMOVE | SWP_NOSIZE;
     // The bottom of the desktop belongs to windows of the system.
     const int place = dice.Between(0, child ? 4 : 3) + (child ? 0 : 1);
     const HWND hAny = log.Any(dice), hSibling = child ? hAny : GetAncestor(hAny, GA_ROOT);

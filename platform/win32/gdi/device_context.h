@@ -77,8 +77,8 @@ std::uint32_t InkPixelOf(const DeviceContext& dc, COLORREF colour);
 /// The pixel of the background colour behind ink of a colour.
 std::uint32_t PaperPixelOf(const DeviceContext& dc, COLORREF ink);
 
-/// Fills `rect` (surface pixels) with a colour, as ink, or with the background colour behind text; clipped; no
-/// raster operation. Notes the damage.
+/// Fills `rect` (surface pixels) with a colour, as ink, or with the background colour behind text; clipped;
+/// no raster operation. Notes the damage.
 void FillDeviceRect(DeviceContext& dc, const RECT& rect, COLORREF colour);
 void FillBackground(DeviceContext& dc, const RECT& rect);
 

@@ -46,23 +46,12 @@ void DropMarksWhenValid(Window& window) {
     window.needsErase = window.eraseRefused = window.needsFramePaint = false;
 }
 
-/// The part of the client area that siblings cover, relative to the frame.
-Region CoveredClient(Window& window) {
-    Region covered = FrameInParents(window);
-    covered.Subtract(VisibleFrame(window));
-    const POINT at = FrameOnSurface(window);
-    covered.Translate(-at.x, -at.y);
-    covered.Intersect(ClientArea(window));
-    return covered;
-}
-
 /// The parameter of WM_NCPAINT: 1 for the whole window, else a region on the screen.
-HRGN FrameRegion(Window& window) {
+HRGN FrameRegion(const Window& window) {
     const Region whole(LocalRect(window.Width(), window.Height()));
     if (window.update == whole) return reinterpret_cast<HRGN>(static_cast<LONG_PTR>(1));
     const HRGN hRgn = CreateRectRgn(0, 0, 0, 0);
     Region onScreen = window.update;
-    onScreen.Subtract(CoveredClient(window));
     const POINT at = FrameOrigin(window);
     onScreen.Translate(at.x, at.y);
     if (pixman_region32_t* raw = RegionOf(hRgn)) pixman_region32_copy(raw, onScreen.Raw());
@@ -139,6 +128,7 @@ void InvalidateArea(Window& window, const Region& area, UINT flags) {
     const Region seen = Seen(window, area);
     if (!seen.Empty()) Mark(window, seen, flags);
     if (!ReachesChildren(window, flags)) return;
+    if (window.needsErase) flags |= RDW_ERASE;  // its background will cover them
     for (Window* child : window.children) {
         const Region inChild = InChild(window, *child, area);
         if (child->Has(WS_VISIBLE) && !inChild.Empty()) InvalidateArea(*child, inChild, flags | RDW_FRAME);

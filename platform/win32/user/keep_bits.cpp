@@ -115,10 +115,20 @@ void InvalidateUncovered(Window& window, const Region& uncovered) {
     InvalidateArea(*window.parent, MovedRegion(uncovered, parentAt, -1), RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-/// Windows that lie above in the same parent do not count: they may go before it is painted.
-void InvalidateRest(Window& window, const Region& valid) {
+/// The part of the client area that windows above in the same parent cover.
+Region CoveredClient(Window& window, const Region& visible) {
+    const POINT at = ClientInFrame(window);
+    Region covered(MovedRect(LocalRect(window.ClientWidth(), window.ClientHeight()), at.x, at.y));
+    covered.Subtract(MovedRegion(visible, FrameOnSurface(window), -1));
+    return covered;
+}
+
+/// Windows that lie above in the same parent do not count, as they may go before it is painted; but where
+/// they cover the client area of a window that keeps its picture, they leave something to paint themselves.
+void InvalidateRest(Window& window, const Region& valid, const Region& visible) {
     Region rest = MovedRegion(FrameInParents(window), FrameOnSurface(window), -1);
     rest.Subtract(valid);
+    if (!valid.Empty()) rest.Subtract(CoveredClient(window, visible));
     if (!rest.Empty()) InvalidateArea(window, rest, RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
@@ -149,7 +159,7 @@ bool MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
     left.Subtract(FrameInParents(window));
     if (!(positionFlags & SWP_NOREDRAW)) {
         InvalidateUncovered(window, uncovered);
-        InvalidateRest(window, valid);
+        InvalidateRest(window, valid, visibleNow);
     }
     return !left.Empty() || !uncovered.Empty();
 }

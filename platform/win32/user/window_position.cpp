@@ -36,6 +36,7 @@ void Complete(Window& window, WINDOWPOS& pos, bool anew) {
     if (!IsVisible(window) && !(pos.flags & SWP_SHOWWINDOW)) pos.flags |= SWP_NOREDRAW;
 }
 
+/// Where it stands already, or behind no window at all, nothing changes in the order.
 void CompleteOrder(Window& window, WINDOWPOS& pos) {
     const HWND after = pos.hwndInsertAfter;
     const bool special = IsAnyTop(after) || after == HWND_BOTTOM;
@@ -56,7 +57,7 @@ void MindOwners(const Window& window, WINDOWPOS& pos) {
     pos.hwndInsertAfter = AboveOwner(window, pos.hwndInsertAfter);
     for (HWND owned : OwnedBelow(window, pos.hwndInsertAfter)) {
         ChangePosition({owned, pos.hwndInsertAfter, 0, 0, 0, 0, kQuietly});
-        pos.hwndInsertAfter = owned;
+        if (WindowOf(owned)) pos.hwndInsertAfter = owned;
     }
 }
 
@@ -138,7 +139,8 @@ void EraseAfterChange(HWND hWnd, UINT flags, Applied applied) {
     const bool otherFrame = !(flags & SWP_NOSIZE) || (flags & SWP_FRAMECHANGED);
     const bool otherOrder = !(flags & SWP_NOZORDER);
     const bool shows = (flags & SWP_SHOWWINDOW) != 0;
-    if (redraws && (shows || (!window->parent && (otherFrame || otherOrder)))) EraseTree(hWnd, true);
+    const bool otherPlace = otherFrame || (otherOrder && !(flags & SWP_NOMOVE));
+    if (redraws && (shows || (!window->parent && otherPlace))) EraseTree(hWnd, true);
     if (shows || !(window = WindowOf(hWnd)) || !window->parent) return;
     const Window& parent = *window->parent;
     const bool concernsParent =
@@ -160,6 +162,12 @@ bool IsPlace(Window& window, const WINDOWPOS& pos) {
     return after && after->parent == window.parent;
 }
 
+/// A window shown again at another place or size counts as shown, visible as it was.
+UINT ShowsElsewhere(UINT asked, UINT flags) {
+    constexpr UINT kInPlace = SWP_NOSIZE | SWP_NOMOVE;
+    return (flags & kInPlace) == kInPlace ? 0 : asked & SWP_SHOWWINDOW;
+}
+
 bool Change(WINDOWPOS pos, bool anew) {
     const HWND hWnd = pos.hwnd;
     Window* window = WindowOf(hWnd);
@@ -178,7 +186,7 @@ bool Change(WINDOWPOS pos, bool anew) {
     const Applied applied = Apply(hWnd, pos, anew);
     if (applied == Applied::WindowGone) return false;
     ActivateAfterChange(hWnd, pos.flags);
-    EraseAfterChange(hWnd, pos.flags | (asked & SWP_SHOWWINDOW), applied);
+    EraseAfterChange(hWnd, pos.flags | ShowsElsewhere(asked, pos.flags), applied);
     TellChanged(hWnd, pos);
     return true;
 }

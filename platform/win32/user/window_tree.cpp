@@ -137,9 +137,7 @@ std::vector<HWND> OwnedBelow(const Window& window, HWND after) {
     return owned;
 }
 
-bool IsAnyTop(HWND after) {
-    return after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
-}
+bool IsAnyTop(HWND after) { return after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST; }
 
 bool StandsThere(Window& window, HWND after) {
     const Window* above = Neighbour(window, -1);

@@ -13,7 +13,7 @@ bool PlaceInOrder(Window& window, HWND after);
 void RaiseWithOwned(Window& window);
 /// Where a window has to go that is to stand behind `after`, but above its owner.
 HWND AboveOwner(const Window& window, HWND after);
-/// The windows it owns below `after` that are top-most as it is, or are not; topmost first.
+/// The windows it owns that stand below the place behind `after`, topmost first: they have to come along.
 std::vector<HWND> OwnedBelow(const Window& window, HWND after);
 /// HWND_TOP, HWND_TOPMOST or HWND_NOTOPMOST
 bool IsAnyTop(HWND after);
