@@ -3,8 +3,8 @@
 cd "$(dirname "$(readlink -f "$0")")/.."
 set -euo pipefail
 bad=0
-for file in tests/scenes/budgets.txt tests/scenes/smooth_budgets.txt; do
-    total() { awk '!/^#/ && NF { sum += $3 } END { print sum + 0 }'; }
+for file in tests/scenes/budgets_draw.txt tests/scenes/budgets_smooth.txt; do
+    total() { awk '!/^#/ && NF { sum += $2 } END { print sum + 0 }'; }
     before=$(total <"$file")
     while read -r commit; do
         earlier=$(git show "$commit:$file" | total)

@@ -94,15 +94,13 @@ def star(radius, colours):
 
 
 def bmp(rows):
-    """An uncompressed bitmap of 8 bits a pixel whose colour table holds just the colours used."""
-    palette = sorted({c for row in rows for c in row})
-    index = {c: i for i, c in enumerate(palette)}
-    table = b"".join(struct.pack("<BBBB", b, g, r, 0) for r, g, b in palette)
-    bits = b"".join(bytes(index[c] for c in row) for row in reversed(rows))
-    offset = 14 + 40 + len(table)
+    """An uncompressed bitmap of 24 bits a pixel. With a colour table, combining a section of it with single bits
+    would combine numbers of colours on one system and colours on another."""
+    bits = b"".join(struct.pack("<BBB", b, g, r) for row in reversed(rows) for r, g, b in row)
+    offset = 14 + 40
     head = struct.pack("<2sIHHI", b"BM", offset + len(bits), 0, 0, offset)
-    info = struct.pack("<IiiHHIIiiII", 40, SIZE, SIZE, 1, 8, 0, len(bits), 0, 0, len(palette), 0)
-    return head + info + table + bits
+    info = struct.pack("<IiiHHIIiiII", 40, SIZE, SIZE, 1, 24, 0, len(bits), 0, 0, 0, 0)
+    return head + info + bits  # rows of 48 bytes need no filling up
 
 
 def mask(is_set):

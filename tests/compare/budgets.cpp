@@ -1,19 +1,19 @@
 #include "compare/budgets.h"
 
-#include <cmath>
+#include <cctype>
 #include <sstream>
 
 namespace {
 
 bool ParseLine(const std::string& strLine, Budgets& budgets) {
     std::istringstream in(strLine);
-    std::string strKind, strUnit;
+    std::string strScene;
+    long nAmount = 0;
     Budget budget;
-    if (!(in >> strKind >> strUnit >> budget.dAmount >> std::ws) || !std::getline(in, budget.strReason))
-        return false;
-    if (strUnit != "pixels" && strUnit != "lines" && strUnit != "mean") return false;
-    budget.unit = strUnit == "mean" ? Budget::kMean : Budget::kExact;
-    return std::isfinite(budget.dAmount) && budget.dAmount > 0 && budgets.emplace(strKind, budget).second;
+    if (!(in >> strScene >> nAmount) || nAmount <= 0) return false;
+    if (!std::isspace(in.peek()) || !(in >> std::ws) || !std::getline(in, budget.strReason)) return false;
+    budget.cAmount = static_cast<std::size_t>(nAmount);
+    return budgets.emplace(strScene, budget).second;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "compare/checksums.h"
 #include "compare/folders.h"
 #include "compare/picture_difference.h"
 
@@ -55,6 +56,7 @@ protected:
             WritePng(root / pszSide / "shapes" / "01.png", Grey(6, 6));
             Write(root / pszSide / "log" / "01.txt", "one\ntwo\n");
         }
+        expected = {"log/01.txt", "shapes/01.png"};
     }
     void TearDown() override { fs::remove_all(root); }
 
@@ -68,18 +70,19 @@ protected:
     }
     FolderResult Run() {
         report.str("");
-        return CompareFolders(root / "got", root / "want", root / "failures", report);
+        return CompareFolders(root / "got", root / "want", root / "failures", expected, report);
     }
     bool Passes(const Budgets& budgets = {}) { return KeepsBudgets(Run(), budgets, report); }
 
     fs::path root;
+    std::set<std::string> expected;
     std::ostringstream report;
 };
 
 TEST_F(Folders, EqualOnesPass) {
     EXPECT_TRUE(Passes());
     EXPECT_EQ("", report.str());
-    EXPECT_EQ(2, Run().Scenes());
+    EXPECT_EQ(2u, Run().scenes.size());
 }
 
 TEST_F(Folders, EveryDifferenceFails) {
@@ -112,9 +115,21 @@ TEST_F(Folders, EveryDifferenceFails) {
          "log/01.txt: 1 of 2 lines differ, first line 2: \"2\" against \"two\""},
         {"a line too few", [](const fs::path& dir) { Write(dir / "got" / "log" / "01.txt", "one\n"); },
          "log/01.txt: 1 of 2 lines differ, first line 2: the end against \"two\""},
+        {"an end of line", [](const fs::path& dir) { Write(dir / "got" / "log" / "01.txt", "one\ntwo"); },
+         "log/01.txt: 1 of 2 lines differ, first line 2"},
+        {"logs that say nothing",
+         [](const fs::path& dir) {
+             for (const char* pszSide : {"got", "want"}) Write(dir / pszSide / "log" / "01.txt", "");
+         },
+         "log/01.txt: empty"},
+        {"a kind that neither has",
+         [](const fs::path& dir) {
+             for (const char* pszSide : {"got", "want"}) fs::remove_all(dir / pszSide / "log");
+         },
+         "log/01.txt: missing"},
         {"both folders gone",
          [](const fs::path& dir) { fs::remove_all(dir / "got"), fs::remove_all(dir / "want"); },
-         "nothing to compare"},
+         "shapes/01.png: missing\n"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.pszName);
@@ -124,6 +139,12 @@ TEST_F(Folders, EveryDifferenceFails) {
         EXPECT_FALSE(Passes());
         EXPECT_NE(std::string::npos, report.str().find(c.pszReport)) << report.str();
     }
+}
+
+TEST_F(Folders, NothingToCompareFails) {
+    fs::remove_all(root / "got"), fs::remove_all(root / "want");
+    expected.clear();
+    EXPECT_FALSE(Passes());
 }
 
 TEST_F(Folders, AFailureLeavesItsPictures) {
@@ -136,14 +157,12 @@ TEST_F(Folders, AFailureLeavesItsPictures) {
 
 TEST_F(Folders, BudgetsHoldToThePixel) {
     DrawOver(3);
-    EXPECT_TRUE(Passes({{"shapes", {Budget::kExact, 3, "reason"}}}));
-    EXPECT_FALSE(Passes({{"shapes", {Budget::kExact, 2, "reason"}}}));
-    EXPECT_FALSE(Passes({{"shapes", {Budget::kExact, 4, "reason"}}})) << "it has to fall";
-    EXPECT_FALSE(Passes({{"shapes", {Budget::kExact, 3, "reason"}}, {"log", {Budget::kExact, 1, "reason"}}}));
-    EXPECT_FALSE(
-        Passes({{"shapes", {Budget::kExact, 3, "reason"}}, {"gone", {Budget::kExact, 1, "reason"}}}));
-    EXPECT_TRUE(Passes({{"shapes", {Budget::kMean, 128, "reason"}}}));
-    EXPECT_FALSE(Passes({{"shapes", {Budget::kMean, 127.9, "reason"}}}));
+    EXPECT_TRUE(Passes({{"shapes/01", {3, "reason"}}}));
+    EXPECT_FALSE(Passes({{"shapes/01", {2, "reason"}}}));
+    EXPECT_FALSE(Passes({{"shapes/01", {4, "reason"}}})) << "it has to fall";
+    EXPECT_FALSE(Passes({{"shapes/02", {3, "reason"}}})) << "it is another scene's";
+    EXPECT_FALSE(Passes({{"shapes/01", {3, "reason"}}, {"log/01", {1, "reason"}}}));
+    EXPECT_FALSE(Passes({{"shapes/01", {3, "reason"}}, {"gone/01", {1, "reason"}}}));
 }
 
 TEST(Budgets, RefuseWhatIsNotComplete) {
@@ -152,14 +171,47 @@ TEST(Budgets, RefuseWhatIsNotComplete) {
         return ReadBudgets(in, budgets);
     };
     Budgets budgets;
-    EXPECT_TRUE(parse("# why\n\narcs pixels 12 rows at the tips\ntext mean 3.5 darker\n", budgets));
-    EXPECT_EQ((Budgets{{"arcs", {Budget::kExact, 12, "rows at the tips"}},
-                       {"text", {Budget::kMean, 3.5, "darker"}}}),
-              budgets);
-    for (const char* pszBad :
-         {"arcs pixels 12\n", "arcs pixels\n", "arcs dots 12 why\n", "arcs pixels -1 why\n",
-          "arcs pixels x why\n", "arcs mean nan why\n", "arcs pixels 1 why\narcs pixels 2 why\n"}) {
+    EXPECT_TRUE(parse("# why\n\narcs/07 12 rows at the tips\n", budgets));
+    EXPECT_EQ((Budgets{{"arcs/07", {12, "rows at the tips"}}}), budgets);
+    for (const char* pszBad : {"arcs/07 12\n", "arcs/07\n", "arcs/07 -1 why\n", "arcs/07 0 why\n",
+                               "arcs/07 x why\n", "arcs/07 1.5 why\n", "arcs/07 1 why\narcs/07 2 why\n"}) {
         Budgets refused;
+        EXPECT_FALSE(parse(pszBad, refused)) << pszBad;
+    }
+}
+
+TEST(Checksums, EveryDifferenceCounts) {
+    const Checksums want = {{"arcs", {"00000001", "00000002"}}, {"text", {"00000003"}}};
+    struct Case {
+        const char* pszName;
+        Checksums got;
+        int nWant;
+    };
+    const Case cases[] = {
+        {"equal", want, 0},
+        {"another sum", {{"arcs", {"00000001", "0000000f"}}, {"text", {"00000003"}}}, 1},
+        {"a kind less", {{"arcs", {"00000001", "00000002"}}}, 1},
+        {"a kind more",
+         {{"arcs", {"00000001", "00000002"}}, {"pies", {"00000001"}}, {"text", {"00000003"}}},
+         1},
+        {"a seed less", {{"arcs", {"00000001"}}, {"text", {"00000003"}}}, 1},
+    };
+    for (const Case& c : cases) {
+        std::ostringstream report;
+        EXPECT_EQ(c.nWant, CompareChecksums(c.got, want, report)) << c.pszName << "\n" << report.str();
+    }
+}
+
+TEST(Checksums, AreReadWholeOrNotAtAll) {
+    const auto parse = [](const char* pszText, Checksums& sums) {
+        std::istringstream in(pszText);
+        return ReadChecksums(in, sums);
+    };
+    Checksums sums;
+    EXPECT_TRUE(parse("arcs 00000001 00000002\ntext 00000003\n", sums));
+    EXPECT_EQ((Checksums{{"arcs", {"00000001", "00000002"}}, {"text", {"00000003"}}}), sums);
+    for (const char* pszBad : {"", "arcs\n", "arcs 1 2\ntext\n", "arcs 1\narcs 2\n", "arcs 1\n\n"}) {
+        Checksums refused;
         EXPECT_FALSE(parse(pszBad, refused)) << pszBad;
     }
 }

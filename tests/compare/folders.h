@@ -5,31 +5,36 @@
 #include <filesystem>
 #include <map>
 #include <ostream>
+#include <set>
 #include <string>
 
 #include "compare/budgets.h"
 
-/// What one kind's scenes add up to.
-struct KindResult {
-    int nScenes = 0, nDiffer = 0;
+/// How one scene compares.
+struct SceneResult {
     std::size_t cPixels = 0, cLines = 0;  ///< That differ.
-    double dMean = 0;                     ///< Largest mean difference of a picture.
-    bool bBroken = false;                 ///< A file is missing, cannot be read or has another size.
+    double dMean = 0;                     ///< Mean difference of a channel over the drawn pixels, 0 to 255.
+    bool bBroken = false;  ///< A file is missing, cannot be read, is empty or has another size.
+
+    bool Differs() const { return bBroken || cPixels + cLines != 0; }
 };
 
 struct FolderResult {
-    std::map<std::string, KindResult> kinds;
+    std::map<std::string, SceneResult> scenes;  ///< By name without extension.
 
-    int Scenes() const;
     int Differing() const;
     std::size_t Pixels() const;
     std::size_t Lines() const;
+    double LargestMean() const;
 };
 
-/// Compares everything that is in either folder. Reports a line a scene that differs, and leaves its two
-/// versions and, for a picture, their difference in `failures`.
+/// Compares everything that is in either folder, and whatever else of `expected` (names with extension) ought
+/// to be. Reports a line a scene that differs, and leaves its two versions and, for a picture, their
+/// difference in `failures`.
 FolderResult CompareFolders(const std::filesystem::path& got, const std::filesystem::path& want,
-                            const std::filesystem::path& failures, std::ostream& report);
+                            const std::filesystem::path& failures, const std::set<std::string>& expected,
+                            std::ostream& report);
 
-/// Whether every kind keeps its budget to the pixel (none: no difference at all); reports those that do not.
+/// Whether every scene keeps its budget to the pixel (none: no difference at all); reports those that do not.
+/// False without any scene.
 bool KeepsBudgets(const FolderResult& result, const Budgets& budgets, std::ostream& report);

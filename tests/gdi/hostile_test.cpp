@@ -80,6 +80,46 @@ TEST(GdiHostile, AnyRectangle) {
     EXPECT_EQ(0u, picture.At(7, 7));
 }
 
+/// Origins that carry the edges of a rectangle over the end of the range, where it may lose its width.
+TEST(GdiHostile, AnyRectangleFromAnyOrigin) {
+    Picture picture(8, 8);
+    HDC hdc = picture.Dc();
+    struct Pen {
+        int style, width;
+    };
+    for (const Pen& pen : {Pen{PS_SOLID, 1}, Pen{PS_NULL, 1}, Pen{PS_SOLID, 3}, Pen{PS_INSIDEFRAME, 5}}) {
+        Selected selected(hdc, CreatePen(pen.style, pen.width, 0));
+        for (int origin : kEdges)
+            for (int a : kEdges)
+                for (int b : kEdges) {
+                    SetWindowOrgEx(hdc, origin, a, nullptr);
+                    SetViewportOrgEx(hdc, b, origin, nullptr);
+                    Rectangle(hdc, a, b, b, a);
+                    Rectangle(hdc, a, a, b, b);
+                }
+    }
+    SetWindowOrgEx(hdc, 0, 0, nullptr);
+    SetViewportOrgEx(hdc, 0, 0, nullptr);
+    EXPECT_TRUE(PatBlt(hdc, 0, 0, 8, 8, BLACKNESS));
+    EXPECT_EQ(0u, picture.At(7, 7));
+}
+
+TEST(GdiHostile, AnyTextAdvance) {
+    Picture picture(8, 8);
+    HDC hdc = picture.Dc();
+    for (UINT align : {TA_LEFT, TA_CENTER, TA_RIGHT})
+        for (UINT follow : {TA_NOUPDATECP, TA_UPDATECP})
+            for (int a : kEdges)
+                for (int b : kEdges) {
+                    SetTextAlign(hdc, align | follow);
+                    MoveToEx(hdc, 0, 0, nullptr);
+                    const INT advances[] = {a, b, a, b};
+                    ExtTextOutA(hdc, 0, 0, 0, nullptr, "HiHi", 4, advances);
+                }
+    EXPECT_TRUE(PatBlt(hdc, 0, 0, 8, 8, BLACKNESS));
+    EXPECT_EQ(0u, picture.At(7, 7));
+}
+
 TEST(GdiHostile, AnyCurve) {
     constexpr int kFar[] = {-70000, -9, 0, 3, 9, 70000};
     Picture picture(8, 8);

@@ -1,12 +1,16 @@
 #include "scenes/catalogue.h"
 
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+
 namespace scenes {
 
 namespace {
 
 void Add(std::vector<Scene>& all, const PictureKind& kind) {
     for (unsigned seed = 1; seed <= kSeeds; ++seed)
-        all.push_back({kind.name, seed, kind.text, [&kind, seed]() -> Outcome {
+        all.push_back({kind.name, seed, kind.text, false, [&kind, seed]() -> Outcome {
                            Stage stage(kind.size, seed);
                            kind.draw(stage);
                            return stage.Pixels();
@@ -15,7 +19,7 @@ void Add(std::vector<Scene>& all, const PictureKind& kind) {
 
 void Add(std::vector<Scene>& all, const LogKind& kind) {
     for (unsigned seed = 1; seed <= kSeeds; ++seed)
-        all.push_back({kind.name, seed, Text::kPlain, [&kind, seed]() -> Outcome {
+        all.push_back({kind.name, seed, Text::kPlain, true, [&kind, seed]() -> Outcome {
                            Dice dice(seed);
                            std::string log;
                            kind.write(log, dice);
@@ -38,13 +42,22 @@ private:
 
 }  // namespace
 
+std::string Scene::FileName() const {
+    char seedName[16];
+    std::snprintf(seedName, sizeof seedName, "/%02u.%s", seed, isLog ? "txt" : "png");
+    return kind + seedName;
+}
+
 std::vector<Scene> AllScenes() {
     std::vector<Scene> all;
     for (const auto& kinds :
-         {LineKinds(), CurveKinds(), RegionKinds(), BlockKinds(), TextKinds(), ControlKinds()})
+         {LineKinds(), CurveKinds(), RegionKinds(), BlockKinds(), TextKinds(), ControlKinds(), WindowKinds()})
         for (const PictureKind& kind : kinds) Add(all, kind);
     for (const auto& kinds : {ContextLogs(), TextLogs(), WindowLogs()})
         for (const LogKind& kind : kinds) Add(all, kind);
+    std::set<std::string> names;
+    for (const Scene& scene : all)
+        if (!names.insert(scene.FileName()).second) std::abort();
     return all;
 }
 

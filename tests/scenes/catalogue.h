@@ -17,10 +17,13 @@ struct Scene {
     std::string kind;
     unsigned seed;
     Text text;
+    bool isLog;
     std::function<Outcome()> make;
+
+    std::string FileName() const;  ///< KIND/SEED.png or .txt.
 };
 
-/// All of them, by kind in the order of the tables, then by seed.
+/// All of them, by kind in the order of the tables, then by seed. Two kinds of one name end the program.
 std::vector<Scene> AllScenes();
 
 /// 32 bits that change with any pixel or character.

@@ -36,6 +36,7 @@ std::span<const PictureKind> RegionKinds();
 std::span<const PictureKind> BlockKinds();
 std::span<const PictureKind> TextKinds();
 std::span<const PictureKind> ControlKinds();
+std::span<const PictureKind> WindowKinds();
 std::span<const LogKind> ContextLogs();
 std::span<const LogKind> TextLogs();
 std::span<const LogKind> WindowLogs();

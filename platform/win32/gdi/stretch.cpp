@@ -1,6 +1,7 @@
 #include "gdi/stretch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <vector>
 
@@ -37,7 +38,7 @@ std::uint32_t Mixed(Surface& source, const Blend& column, const Blend& row) {
             return one + (other - one) * column.share;
         };
         const double above = part(upper), mixed = above + (part(lower) - above) * row.share;
-        pixel |= static_cast<std::uint32_t>(mixed + 0.5) << shift;
+        pixel |= static_cast<std::uint32_t>(std::lround(mixed)) << shift;
     }
     return pixel;
 }
