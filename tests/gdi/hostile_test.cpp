@@ -107,6 +107,10 @@ TEST(GdiHostile, AnyRectangleFromAnyOrigin) {
 TEST(GdiHostile, AnyTextAdvance) {
     Picture picture(8, 8);
     HDC hdc = picture.Dc();
+    // Large enough for ink to begin to the right of the pen.
+    Selected font(
+        hdc, CreateFontA(40, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                         CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH, "HelveticaNeueLT Pro 55 Roman"));
     for (UINT align : {TA_LEFT, TA_CENTER, TA_RIGHT})
         for (UINT follow : {TA_NOUPDATECP, TA_UPDATECP})
             for (int a : kEdges)

@@ -1,6 +1,4 @@
-// Bitmaps out of bits, resources and sections, cursors, and what is read back of them.
-#include <tavlon/tavlon.h>
-
+// Bitmaps out of bits and sections, cursors, and what is read back of them.
 #include <cstring>
 
 #include "scenes/block_scenes.h"
@@ -167,42 +165,47 @@ HICON MakeIcon(Stage& stage) {
     return CreateIconIndirect(&info);
 }
 
+/// A cursor of two colour bitmaps: the mask white around the picture, the picture black around itself.
+HICON MakeCutOut(Stage& stage) {
+    const int cx = stage.dice.Between(1, 32), cy = stage.dice.Between(1, 32);
+    const Sheet mask(stage, cx, cy), picture(stage, cx, cy);
+    const RECT all{0, 0, cx, cy};
+    FillRect(mask.hdc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    FillRect(picture.hdc, &all, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    for (int i = 0; i < 200; ++i) {
+        const int x = stage.dice.Between(0, cx - 1), y = stage.dice.Between(0, cy - 1);
+        SetPixelV(mask.hdc, x, y, RGB(0, 0, 0));
+        SetPixelV(picture.hdc, x, y, stage.dice.Colour());
+    }
+    SelectObject(mask.hdc, stage.Keep(CreateBitmap(1, 1, 1, 1, nullptr)));
+    SelectObject(picture.hdc, stage.Keep(CreateBitmap(1, 1, 1, 1, nullptr)));
+    ICONINFO info{FALSE, 8, 8, mask.bitmap, picture.bitmap};
+    return CreateIconIndirect(&info);
+}
+
+/// What a cursor or icon is made of, in the `i`th place.
+void ShowIcon(Stage& stage, HICON icon, int i, int apart) {
+    ICONINFO info{};
+    const BOOL got = GetIconInfo(icon, &info);
+    SetColours(stage, stage.hdc);
+    const POINT at = stage.Point(0);
+    if (info.hbmMask) Show(stage, stage.Keep(info.hbmMask), at.x, at.y);
+    if (info.hbmColor) Show(stage, stage.Keep(info.hbmColor), at.x + apart, at.y);
+    ShowRecord(stage, info.hbmMask, 4 * i, 0);
+    if (info.hbmColor) ShowRecord(stage, info.hbmColor, 4 * i + 2, 0);
+    SetPixelV(stage.hdc, i, 1, RGB(info.xHotspot, info.yHotspot, got * 2 + info.fIcon));
+    DestroyIcon(icon);
+}
+
 }  // namespace
 
 void Cursors(Stage& stage) {
-    for (int i = 0; i < 8; ++i) {
-        const HICON icon = MakeIcon(stage);
-        ICONINFO info{};
-        const BOOL got = GetIconInfo(icon, &info);
-        SetColours(stage, stage.hdc);
-        const POINT at = stage.Point(0);
-        if (info.hbmMask) Show(stage, stage.Keep(info.hbmMask), at.x, at.y);
-        if (info.hbmColor) Show(stage, stage.Keep(info.hbmColor), at.x + 20, at.y);
-        ShowRecord(stage, info.hbmMask, 4 * i, 0);
-        if (info.hbmColor) ShowRecord(stage, info.hbmColor, 4 * i + 2, 0);
-        SetPixelV(stage.hdc, i, 1, RGB(info.xHotspot, info.yHotspot, got * 2 + info.fIcon));
-        DestroyIcon(icon);
-    }
+    for (int i = 0; i < 8; ++i) ShowIcon(stage, MakeIcon(stage), i, 20);
 }
 
-/// The library's bitmaps, and a name that it lacks.
-void ResourceBitmaps(Stage& stage) {
-    static const CProxy_RoePointCtrl s_radar;  // keeps the library loaded
-    const HINSTANCE library = AfxFindResourceHandle(MAKEINTRESOURCEA(3000), RT_BITMAP);
-    static constexpr int kNames[] = {3000, 3001, 3002, 3003, 3004, 3005, 3006, 3007, 3011, 3012, 3013};
-    static constexpr UINT kFlags[] = {LR_DEFAULTCOLOR, LR_CREATEDIBSECTION, LR_LOADMAP3DCOLORS,
-                                      LR_CREATEDIBSECTION | LR_LOADMAP3DCOLORS};
-    stage.Texture();
-    for (int i = 0; i < 20; ++i) {
-        const LPCSTR name = MAKEINTRESOURCEA(stage.dice.Of(kNames));
-        const UINT flags = stage.dice.Of(kFlags);
-        const HANDLE image = stage.dice.OneIn(3) ? LoadBitmapA(library, name)
-                                                 : LoadImageA(library, name, IMAGE_BITMAP, 0, 0, flags);
-        const HBITMAP bitmap = static_cast<HBITMAP>(image);
-        const POINT at = stage.Point();
-        if (bitmap) Show(stage, stage.Keep(bitmap), at.x, at.y);
-        SetPixelV(stage.hdc, i, 0, bitmap ? RGB(255, 255, 255) : RGB(0, 0, 0));
-    }
+/// Their masks, of colours, become single bits.
+void CutOutCursors(Stage& stage) {
+    for (int i = 0; i < 6; ++i) ShowIcon(stage, MakeCutOut(stage), i, 33);
 }
 
 }  // namespace scenes::blocks

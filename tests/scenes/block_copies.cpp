@@ -116,4 +116,35 @@ void ClippedCopies(Stage& stage) {
     SetViewportOrgEx(stage.hdc, 0, 0, nullptr);
 }
 
+namespace {
+
+/// Fields and lines on a canvas, of which some stays as it was made.
+void DrawOn(Stage& stage, HDC hdc) {
+    for (int i = stage.dice.Between(0, 5); i > 0; --i) {
+        const RECT rc = stage.Box(2, 90, 70);
+        FillRect(hdc, &rc, stage.Keep(CreateSolidBrush(stage.dice.Colour())));
+        const POINT to = stage.Point();
+        SelectObject(hdc, stage.Keep(CreatePen(PS_SOLID, stage.dice.Between(1, 3), stage.dice.Colour())));
+        LineTo(hdc, to.x, to.y);
+    }
+}
+
+}  // namespace
+
+/// Drawn off the screen and copied as a whole: as large as what the target may show, or as a rectangle that
+/// need not start at the origin.
+void MemoryCanvases(Stage& stage) {
+    stage.Texture();
+    for (int i = 0; i < 6; ++i) {
+        SetClip(stage);
+        RECT area = stage.Box(0, 120, 90);
+        if (stage.dice.OneIn(2)) GetClipBox(stage.hdc, &area);
+        const int cx = area.right - area.left, cy = area.bottom - area.top;
+        const Sheet canvas(stage, cx, cy);
+        if (stage.dice.OneIn(3)) SelectClipRgn(canvas.hdc, stage.Keep(CreateRectRgn(9, 9, 70, 50)));
+        DrawOn(stage, canvas.hdc);
+        BitBlt(stage.hdc, area.left, area.top, cx, cy, canvas.hdc, area.left, area.top, SRCCOPY);
+    }
+}
+
 }  // namespace scenes::blocks

@@ -38,7 +38,11 @@ constexpr PictureKind kKinds[] = {
     {"block_loaded_dibs", {160, 120}, LoadedDibs},
     {"block_bits_read_back", {160, 120}, BitsReadBack},
     {"block_cursors", {160, 120}, Cursors},
+    {"block_cut_out_cursors", {160, 120}, CutOutCursors},
+    {"block_memory_canvases", {160, 120}, MemoryCanvases},
     {"block_resources", {160, 120}, ResourceBitmaps},
+    {"block_section_sprites", {160, 120}, SectionSprites},
+    {"block_resource_cursor", {160, 120}, ResourceCursor},
 };
 
 }  // namespace

@@ -144,32 +144,6 @@ void MonoDrawing(Stage& stage) {
     Show(stage, mono, 0, 0);
 }
 
-namespace {
-
-void Copy(const Sheet& to, const Sheet& from, DWORD code) {
-    BitBlt(to.hdc, 0, 0, to.cx, to.cy, from.hdc, 0, 0, code);
-}
-
-/// A sprite by way of two masks, as a program without a transparent transfer does it.
-void DrawMasked(Stage& stage, const Sheet& picture, POINT at, COLORREF leftOut) {
-    const int cx = picture.cx, cy = picture.cy;
-    const Sheet back(stage, cx, cy, Sheet::kMono), object(stage, cx, cy, Sheet::kMono);
-    const Sheet memory(stage, cx, cy), save(stage, cx, cy);
-    Copy(save, picture, SRCCOPY);
-    const COLORREF old = SetBkColor(picture.hdc, leftOut);
-    Copy(object, picture, SRCCOPY);
-    SetBkColor(picture.hdc, old);
-    Copy(back, object, NOTSRCCOPY);
-    BitBlt(memory.hdc, 0, 0, cx, cy, stage.hdc, at.x, at.y, SRCCOPY);
-    Copy(memory, object, SRCAND);
-    Copy(picture, back, SRCAND);
-    Copy(memory, picture, SRCPAINT);
-    BitBlt(stage.hdc, at.x, at.y, cx, cy, memory.hdc, 0, 0, SRCCOPY);
-    Copy(picture, save, SRCCOPY);
-}
-
-}  // namespace
-
 void MaskedSprites(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 12; ++i) {
@@ -180,8 +154,10 @@ void MaskedSprites(Stage& stage) {
         DrawSomething(stage, picture.hdc, picture.cx, picture.cy);
         if (stage.dice.OneIn(2)) SetColours(stage, stage.hdc);
         if (stage.dice.OneIn(3)) SetClip(stage);
-        for (int shown = 0; shown < 2; ++shown)
-            DrawMasked(stage, picture, stage.Point(), stage.dice.Of(colours.all));
+        for (int shown = 0; shown < 2; ++shown) {
+            const COLORREF leftOut = stage.dice.Of(colours.all);
+            DrawMasked(stage, picture.hdc, {cx, cy}, stage.Point(), leftOut);
+        }
     }
 }
 

@@ -35,6 +35,26 @@ void Show(Stage& stage, HBITMAP bitmap, int x, int y) {
     DeleteDC(hdc);
 }
 
+void DrawMasked(Stage& stage, HDC picture, SIZE size, POINT at, COLORREF leftOut) {
+    const auto [cx, cy] = size;
+    const Sheet back(stage, cx, cy, Sheet::kMono), object(stage, cx, cy, Sheet::kMono);
+    const Sheet memory(stage, cx, cy), save(stage, cx, cy);
+    const auto copy = [&](HDC to, HDC from, DWORD code) {
+        BitBlt(to, 0, 0, size.cx, size.cy, from, 0, 0, code);
+    };
+    copy(save.hdc, picture, SRCCOPY);
+    const COLORREF old = SetBkColor(picture, leftOut);
+    copy(object.hdc, picture, SRCCOPY);
+    SetBkColor(picture, old);
+    copy(back.hdc, object.hdc, NOTSRCCOPY);
+    BitBlt(memory.hdc, 0, 0, cx, cy, stage.hdc, at.x, at.y, SRCCOPY);
+    copy(memory.hdc, object.hdc, SRCAND);
+    copy(picture, back.hdc, SRCAND);
+    copy(memory.hdc, picture, SRCPAINT);
+    BitBlt(stage.hdc, at.x, at.y, cx, cy, memory.hdc, 0, 0, SRCCOPY);
+    copy(picture, save.hdc, SRCCOPY);
+}
+
 void SetColours(Stage& stage, HDC hdc) {
     SetBkColor(hdc, stage.dice.Colour());
     SetTextColor(hdc, stage.dice.Colour());

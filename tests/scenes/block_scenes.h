@@ -36,6 +36,9 @@ private:
 void Show(Stage& stage, const Sheet& sheet, int x, int y);
 /// A bitmap that is in no context, on the stage.
 void Show(Stage& stage, HBITMAP bitmap, int x, int y);
+/// A picture by way of two masks, as a program without a transparent transfer draws it. It is changed and put
+/// back in between.
+void DrawMasked(Stage& stage, HDC picture, SIZE size, POINT at, COLORREF leftOut);
 /// The context's background and text colours and its brush.
 void SetColours(Stage& stage, HDC hdc);
 /// A clip of a few rectangles or ellipses, or none.
@@ -74,6 +77,11 @@ void Sections(Stage&);
 void LoadedDibs(Stage&);
 void BitsReadBack(Stage&);
 void Cursors(Stage&);
+void CutOutCursors(Stage&);
+void MemoryCanvases(Stage&);
+
 void ResourceBitmaps(Stage&);
+void SectionSprites(Stage&);
+void ResourceCursor(Stage&);
 
 }  // namespace scenes::blocks

@@ -85,7 +85,7 @@ void ArcsXored(Stage& stage) {
 void ArcsOfAllOperations(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 50; ++i) {
-        AnyOperation(stage);
+        stage.SelectAnyOperation();
         AnyPen(stage);
         Draw(stage, stage.Box(1, 60, 60));
     }
@@ -99,6 +99,18 @@ void Rings(Stage& stage) {
         const RECT rc = {centre.x - radius, centre.y - radius, centre.x + radius, centre.y + radius};
         const POINT top = {centre.x, centre.y - radius};
         DrawBetween(stage, rc, top, {top.x + stage.dice.Between(0, 1), top.y});
+    }
+}
+
+/// Whole circles from the top round, of any radius that a calculation may come to.
+void ArcsOfCircles(Stage& stage) {
+    for (int i = 0; i < 30; ++i) {
+        SolidPen(stage, 2, 2);
+        const POINT centre = stage.Point();
+        const int radius = stage.dice.Between(-3, stage.dice.OneIn(3) ? 6 : 60);
+        const RECT rc = {centre.x - radius, centre.y - radius, centre.x + radius, centre.y + radius};
+        const POINT top = {centre.x, centre.y - radius};
+        DrawBetween(stage, rc, top, top);
     }
 }
 

@@ -40,7 +40,7 @@ void EllipsesBorderless(Stage& stage) {
 void EllipsesWide(Stage& stage) {
     for (int i = 0; i < kFilled; ++i) {
         SolidPen(stage, 2, 9);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, AnyBox(stage));
     }
 }
@@ -49,7 +49,7 @@ void EllipsesInsideFrame(Stage& stage) {
     for (int i = 0; i < kFilled; ++i) {
         const int width = stage.dice.Between(0, 12);
         stage.SelectPen(PS_INSIDEFRAME, width, stage.dice.Colour());
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         const int most = stage.dice.OneIn(2) ? 14 : 90;
         Draw(stage, SettledBox(stage, 0, most, most, 12));
     }
@@ -59,7 +59,7 @@ void EllipsesTiny(Stage& stage) {
     for (int i = 0; i < 120; ++i) {
         AnyPen(stage);
         if (stage.dice.OneIn(2)) SolidPen(stage, 0, 1);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, SettledBox(stage, 0, 6, 6));
     }
 }
@@ -67,7 +67,7 @@ void EllipsesTiny(Stage& stage) {
 void EllipsesFlat(Stage& stage) {
     for (int i = 0; i < 40; ++i) {
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, SettledBox(stage, 1, 200, 6));
     }
 }
@@ -83,7 +83,7 @@ void EllipsesTall(Stage& stage) {
 void EllipsesReversed(Stage& stage) {
     for (int i = 0; i < kFilled; ++i) {
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, MaybeReversed(stage, AnyBox(stage)));
     }
 }
@@ -91,7 +91,7 @@ void EllipsesReversed(Stage& stage) {
 void EllipsesDashed(Stage& stage) {
     for (int i = 0; i < 30; ++i) {
         DashedPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, AnyBox(stage));
     }
 }
@@ -101,7 +101,7 @@ void EllipsesXored(Stage& stage) {
     SetROP2(stage.hdc, R2_XORPEN);
     for (int i = 0; i < 30; ++i) {
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, stage.dice.OneIn(2) ? AnyBox(stage) : SettledBox(stage, 1, 120, 9));
     }
 }
@@ -109,9 +109,9 @@ void EllipsesXored(Stage& stage) {
 void EllipsesOfAllOperations(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 40; ++i) {
-        AnyOperation(stage);
+        stage.SelectAnyOperation();
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, SettledBox(stage, 1, 60, 60));
     }
 }
@@ -124,7 +124,7 @@ void EllipsesClipped(Stage& stage) {
         SelectClipRgn(stage.hdc, stage.dice.OneIn(4) ? nullptr : clip);
         SetROP2(stage.hdc, stage.dice.OneIn(2) ? R2_XORPEN : R2_COPYPEN);
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, AnyBox(stage));
     }
 }
@@ -134,7 +134,7 @@ void EllipsesHuge(Stage& stage) {
     for (int i = 0; i < 30; ++i) {
         SolidPen(stage, 0, 3);
         if (i < 3)
-            AnyBrush(stage);
+            stage.SelectAnyBrush();
         else
             stage.SelectNoBrush();
         const POINT on = stage.Point();

@@ -49,7 +49,7 @@ void PiesWide(Stage& stage) {
     for (int i = 0; i < 20; ++i) {
         const int width = stage.dice.Between(2, 9), style = stage.dice.OneIn(3) ? PS_INSIDEFRAME : PS_SOLID;
         stage.SelectPen(style, width, stage.dice.Colour());
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, stage.Box(width + 1, 120, 90));
     }
 }
@@ -57,7 +57,7 @@ void PiesWide(Stage& stage) {
 void PiesTiny(Stage& stage) {
     for (int i = 0; i < 120; ++i) {
         SolidPen(stage, 0, stage.dice.OneIn(4) ? 4 : 1);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         const int widest = stage.dice.OneIn(4) ? 30 : 6, highest = stage.dice.OneIn(4) ? 30 : 6;
         Draw(stage, stage.Box(0, widest, highest));
     }
@@ -78,7 +78,7 @@ void PiesThin(Stage& stage) {
         const int next = degree + stage.dice.Between(3, 12);
         SolidPen(stage, 0, 1);
         if (stage.dice.OneIn(3)) stage.SelectNoPen();
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         DrawBetween(stage, rc, at(degree), at(next));
         degree = next;
     }
@@ -87,7 +87,7 @@ void PiesThin(Stage& stage) {
 void PiesDashed(Stage& stage) {
     for (int i = 0; i < 25; ++i) {
         DashedPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, AnyBox(stage));
     }
 }
@@ -97,7 +97,7 @@ void PiesXored(Stage& stage) {
     SetROP2(stage.hdc, R2_XORPEN);
     for (int i = 0; i < 30; ++i) {
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, AnyBox(stage));
     }
 }
@@ -105,10 +105,25 @@ void PiesXored(Stage& stage) {
 void PiesOfAllOperations(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 40; ++i) {
-        AnyOperation(stage);
+        stage.SelectAnyOperation();
         AnyPen(stage);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         Draw(stage, stage.Box(1, 60, 60));
+    }
+}
+
+/// Of circles without an outline, between points that are next to each other.
+void PiesSlivers(Stage& stage) {
+    stage.SelectNoPen();
+    for (int i = 0; i < 40; ++i) {
+        stage.SelectBrush(stage.dice.Colour());
+        const POINT centre = stage.Point();
+        const int radius = stage.dice.Between(1, 50);
+        const int dx = stage.dice.Between(-radius, radius), dy = stage.dice.Between(-radius, radius);
+        const POINT from = {centre.x + dx, centre.y + dy};
+        const int right = stage.dice.Between(-1, 1), down = stage.dice.Between(-1, 1);
+        const RECT rc = {centre.x - radius, centre.y - radius, centre.x + radius, centre.y + radius};
+        DrawBetween(stage, rc, from, {from.x + right, from.y + down});
     }
 }
 

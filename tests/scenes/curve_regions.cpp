@@ -14,18 +14,14 @@ HRGN AnyRegion(Stage& stage, int least, int widest, int highest) {
     return stage.Keep(CreateEllipticRgn(rc.left, rc.top, rc.right, rc.bottom));
 }
 
-void Fill(Stage& stage, HRGN region) {
-    FillRgn(stage.hdc, region, stage.Keep(CreateSolidBrush(stage.dice.Colour())));
-}
-
 }  // namespace
 
 void RegionsFilled(Stage& stage) {
-    for (int i = 0; i < 20; ++i) Fill(stage, AnyRegion(stage, 1, 120, 90));
+    for (int i = 0; i < 20; ++i) stage.Fill(AnyRegion(stage, 1, 120, 90));
 }
 
 void RegionsTiny(Stage& stage) {
-    for (int i = 0; i < 150; ++i) Fill(stage, AnyRegion(stage, 0, 7, 7));
+    for (int i = 0; i < 150; ++i) stage.Fill(AnyRegion(stage, 0, 7, 7));
 }
 
 /// Without area in one direction or both.
@@ -34,7 +30,7 @@ void RegionsEmpty(Stage& stage) {
         const POINT at = stage.Point();
         const int across = stage.dice.OneIn(2) ? 0 : stage.dice.Between(-60, 60);
         const int down = across == 0 && stage.dice.OneIn(2) ? stage.dice.Between(-60, 60) : 0;
-        Fill(stage, stage.Keep(CreateEllipticRgn(at.x, at.y, at.x + across, at.y + down)));
+        stage.Fill(stage.Keep(CreateEllipticRgn(at.x, at.y, at.x + across, at.y + down)));
     }
 }
 
@@ -43,7 +39,7 @@ void RegionsCombined(Stage& stage) {
     for (int i = 0; i < 15; ++i) {
         const HRGN first = AnyRegion(stage, 1, 120, 90), second = AnyRegion(stage, 1, 120, 90);
         CombineRgn(first, first, second, stage.dice.Of(kModes));
-        Fill(stage, first);
+        stage.Fill(first);
     }
 }
 
@@ -68,8 +64,8 @@ void RegionsAsClip(Stage& stage) {
 void RegionsOfAllOperations(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 30; ++i) {
-        AnyOperation(stage);
-        Fill(stage, AnyRegion(stage, 1, 60, 60));
+        stage.SelectAnyOperation();
+        stage.Fill(AnyRegion(stage, 1, 60, 60));
     }
 }
 

@@ -26,13 +26,6 @@ void AnyPen(Stage& stage) {
     SolidPen(stage, 2, 9);
 }
 
-void AnyBrush(Stage& stage) {
-    if (stage.dice.OneIn(3)) return stage.SelectNoBrush();
-    stage.SelectBrush(stage.dice.Colour());
-}
-
-void AnyOperation(Stage& stage) { SetROP2(stage.hdc, stage.dice.Between(R2_BLACK, R2_WHITE)); }
-
 RECT MaybeReversed(Stage& stage, const RECT& rc) {
     RECT reversed = rc;
     if (stage.dice.OneIn(2)) std::swap(reversed.left, reversed.right);
@@ -42,11 +35,9 @@ RECT MaybeReversed(Stage& stage, const RECT& rc) {
 
 RECT SettledBox(Stage& stage, int least, int widest, int highest, int margin) {
     RECT rc = stage.Box(least, widest, highest);
-    const auto settled = [&](int less) {
-        return TipsSettled(rc.right - rc.left - less, rc.bottom - rc.top - less);
-    };
     for (int less = 0; less <= margin; ++less)
-        while (!settled(less)) --rc.bottom;
+        rc = LoweredUntil(rc,
+                          [less](int width, int height) { return TipsSettled(width - less, height - less); });
     return rc;
 }
 

@@ -11,9 +11,6 @@ void AnyPen(Stage& stage);
 void SolidPen(Stage& stage, int thinnest, int widest);
 /// Dashed, with what the gaps are drawn in, if anything.
 void DashedPen(Stage& stage);
-void AnyBrush(Stage& stage);
-/// A texture, so that an operation's mixing shows, and any of the sixteen operations.
-void AnyOperation(Stage& stage);
 /// Corners as they come, or exchanged in x, in y or both.
 RECT MaybeReversed(Stage& stage, const RECT& rc);
 
@@ -45,6 +42,7 @@ void ArcsDashed(Stage&);
 void ArcsXored(Stage&);
 void ArcsOfAllOperations(Stage&);
 void Rings(Stage&);
+void ArcsOfCircles(Stage&);
 
 void PiesFilled(Stage&);
 void PiesOutlined(Stage&);
@@ -52,6 +50,7 @@ void PiesBorderless(Stage&);
 void PiesWide(Stage&);
 void PiesTiny(Stage&);
 void PiesThin(Stage&);
+void PiesSlivers(Stage&);
 void PiesDashed(Stage&);
 void PiesXored(Stage&);
 void PiesOfAllOperations(Stage&);

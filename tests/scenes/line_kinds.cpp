@@ -41,15 +41,6 @@ void AnyBackground(Stage& stage) {
     SetBkMode(stage.hdc, stage.dice.OneIn(2) ? TRANSPARENT : OPAQUE);
 }
 
-void AnyOperation(Stage& stage) { SetROP2(stage.hdc, stage.dice.Between(R2_BLACK, R2_WHITE)); }
-
-void AnyBrush(Stage& stage) {
-    if (stage.dice.OneIn(3))
-        stage.SelectNoBrush();
-    else
-        stage.SelectBrush(stage.dice.Colour());
-}
-
 void ThinLines(Stage& stage) {
     for (int i = 0; i < 40; ++i) {
         AnyPen(stage, PS_SOLID, 0, 1);
@@ -141,7 +132,7 @@ void DashedOperations(Stage& stage) {
     for (int i = 0; i < 40; ++i) {
         AnyPen(stage, stage.dice.Of(kDashStyles), 0, 1);
         AnyBackground(stage);
-        AnyOperation(stage);
+        stage.SelectAnyOperation();
         AnyLine(stage);
     }
 }
@@ -162,7 +153,7 @@ void Operations(Stage& stage) {
     stage.Texture();
     for (int i = 0; i < 50; ++i) {
         AnyPen(stage, PS_SOLID, 0, 4);
-        AnyOperation(stage);
+        stage.SelectAnyOperation();
         if (stage.dice.OneIn(3))
             AnyPolyline<5>(stage);
         else
@@ -208,7 +199,7 @@ void Rectangles(Stage& stage) {
             stage.SelectNoPen();
         else
             AnyPen(stage, stage.dice.OneIn(5) ? stage.dice.Of(kDashStyles) : PS_SOLID, 0, 1);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         AnyBackground(stage);
         RECT rc = stage.Box(-2, 60, 40);
         if (stage.dice.OneIn(3)) std::swap(rc.left, rc.right);
@@ -220,7 +211,7 @@ void Rectangles(Stage& stage) {
 void WideRectangles(Stage& stage) {
     for (int i = 0; i < 25; ++i) {
         AnyPen(stage, stage.dice.OneIn(3) ? PS_INSIDEFRAME : PS_SOLID, 1, 5);
-        AnyBrush(stage);
+        stage.SelectAnyBrush();
         AnyRectangle(stage);
     }
 }
@@ -232,8 +223,8 @@ void RectangleOperations(Stage& stage) {
             stage.SelectNoPen();
         else
             AnyPen(stage, PS_SOLID, 0, 3);
-        AnyBrush(stage);
-        AnyOperation(stage);
+        stage.SelectAnyBrush();
+        stage.SelectAnyOperation();
         AnyRectangle(stage);
     }
 }

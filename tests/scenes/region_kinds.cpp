@@ -102,14 +102,10 @@ HRGN AnyRegion(Stage& stage) {
     return stage.Keep(CreatePolygonRgn(corners.points, corners.count, stage.dice.Of(kModes)));
 }
 
-void Fill(Stage& stage, HRGN region) {
-    FillRgn(stage.hdc, region, stage.Keep(CreateSolidBrush(stage.dice.Colour())));
-}
-
 void PolygonRegions(Stage& stage) {
     for (int i = 0; i < 14; ++i) {
         const Corners corners(stage, kMostCorners);
-        Fill(stage, stage.Keep(CreatePolygonRgn(corners.points, corners.count, stage.dice.Of(kModes))));
+        stage.Fill(stage.Keep(CreatePolygonRgn(corners.points, corners.count, stage.dice.Of(kModes))));
     }
 }
 
@@ -120,7 +116,7 @@ void Regions(Stage& stage) {
         SetWindowOrgEx(stage.hdc, window.x, window.y, nullptr);
         SetViewportOrgEx(stage.hdc, viewport.x, viewport.y, nullptr);
         SetROP2(stage.hdc, stage.dice.OneIn(2) ? R2_COPYPEN : stage.dice.Between(R2_BLACK, R2_WHITE));
-        Fill(stage, AnyRegion(stage));
+        stage.Fill(AnyRegion(stage));
     }
 }
 
@@ -138,7 +134,7 @@ HRGN AnyCombination(Stage& stage) {
 }
 
 void CombinedRegions(Stage& stage) {
-    for (int i = 0; i < 8; ++i) Fill(stage, AnyCombination(stage));
+    for (int i = 0; i < 8; ++i) stage.Fill(AnyCombination(stage));
 }
 
 /// Draws a few things of every sort.

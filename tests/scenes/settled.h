@@ -14,15 +14,21 @@ inline bool TipsSettled(int width, int height) {
     return width < 2 || height < std::max(3, 2 * (width - 1) * (width - 1));
 }
 
-/// The rectangle, its height lowered until an ellipse in it is settled, drawn as a shape or as a region,
-/// which may be a pixel smaller or, where edges are exchanged, larger.
-inline RECT SettledBox(RECT rc) {
-    const auto settled = [&] {
-        const int width = std::abs(rc.right - rc.left), height = std::abs(rc.bottom - rc.top) + 1;
-        return TipsSettled(width - 1, height) && TipsSettled(width, height) && TipsSettled(width + 1, height);
-    };
-    while (!settled()) rc.bottom += rc.bottom > rc.top ? -1 : 1;
+/// The rectangle, its height lowered until `settled` says yes to its width and height.
+template <class Settled>
+RECT LoweredUntil(RECT rc, Settled settled) {
+    while (!settled(std::abs(rc.right - rc.left), std::abs(rc.bottom - rc.top)))
+        rc.bottom += rc.bottom > rc.top ? -1 : 1;
     return rc;
+}
+
+/// Lowered until an ellipse in it is settled, drawn as a shape or as a region, which may be a pixel smaller
+/// or, where edges are exchanged, larger.
+inline RECT SettledBox(const RECT& rc) {
+    return LoweredUntil(rc, [](int width, int height) {
+        return TipsSettled(width - 1, height + 1) && TipsSettled(width, height + 1) &&
+               TipsSettled(width + 1, height + 1);
+    });
 }
 
 }  // namespace scenes

@@ -4,18 +4,18 @@ namespace scenes {
 
 namespace {
 
-void Fill(HDC hdc, const RECT& rc, COLORREF colour) {
+void FillBox(HDC hdc, const RECT& rc, COLORREF colour) {
     const HBRUSH brush = CreateSolidBrush(colour);
     FillRect(hdc, &rc, brush);
     DeleteObject(brush);
 }
 
 void Cover(HDC hdc, int cx, int cy, Dice& dice) {
-    Fill(hdc, {0, 0, cx, cy}, dice.Colour());
+    FillBox(hdc, {0, 0, cx, cy}, dice.Colour());
     for (int i = 0; i < 24; ++i) {
         const int left = dice.Between(-cx / 4, cx), top = dice.Between(-cy / 4, cy);
         const int width = dice.Between(1, cx / 2 + 1), height = dice.Between(1, cy / 2 + 1);
-        Fill(hdc, {left, top, left + width, top + height}, dice.Colour());
+        FillBox(hdc, {left, top, left + width, top + height}, dice.Colour());
     }
 }
 
@@ -27,7 +27,7 @@ Stage::Stage(SIZE size, unsigned seed) : cx(size.cx), cy(size.cy), dice(seed) {
     m_bitmap = CreateCompatibleBitmap(screen, cx, cy);
     ReleaseDC(nullptr, screen);
     SelectObject(hdc, m_bitmap);
-    Fill(hdc, {0, 0, cx, cy}, dice.Colour());
+    FillBox(hdc, {0, 0, cx, cy}, dice.Colour());
 }
 
 Stage::~Stage() {
@@ -53,6 +53,15 @@ void Stage::SelectPen(int style, int width, COLORREF colour) {
 void Stage::SelectBrush(COLORREF colour) { SelectObject(hdc, Keep(CreateSolidBrush(colour))); }
 void Stage::SelectNoPen() { SelectObject(hdc, GetStockObject(NULL_PEN)); }
 void Stage::SelectNoBrush() { SelectObject(hdc, GetStockObject(NULL_BRUSH)); }
+
+void Stage::SelectAnyBrush() {
+    if (dice.OneIn(3)) return SelectNoBrush();
+    SelectBrush(dice.Colour());
+}
+
+void Stage::SelectAnyOperation() { SetROP2(hdc, dice.Between(R2_BLACK, R2_WHITE)); }
+
+void Stage::Fill(HRGN region) { FillRgn(hdc, region, Keep(CreateSolidBrush(dice.Colour()))); }
 
 void Stage::SelectFont(const char* face, int height, int weight) {
     SelectObject(hdc, Keep(CreateFontA(height, 0, 0, 0, weight, 0, 0, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,

@@ -30,6 +30,12 @@ public:
     void SelectBrush(COLORREF colour);
     void SelectNoPen();
     void SelectNoBrush();
+    /// Any colour, or none at all.
+    void SelectAnyBrush();
+    /// Any of the sixteen raster operations.
+    void SelectAnyOperation();
+    /// Fills a region with any colour.
+    void Fill(HRGN region);
     void SelectFont(const char* face, int height, int weight = FW_NORMAL);
     /// Keeps an object until the stage goes, and gives it back.
     template <class Object>

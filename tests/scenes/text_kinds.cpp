@@ -123,13 +123,14 @@ void Monochrome(Stage& stage) {
     BitBlt(stage.hdc, 0, 0, stage.cx, stage.cy, sheet.hdc, 0, 0, SRCCOPY);
 }
 
-/// `format` gives the flags of one call, `widest` and `highest` the rectangle.
-void Layouts(Stage& stage, int widest, int highest, UINT (*format)(Dice&), MakeText makeText) {
+/// `format` gives the flags of one call, `least`, `widest` and `highest` the rectangle.
+void Layouts(Stage& stage, int widest, int highest, UINT (*format)(Dice&), MakeText makeText,
+             int least = -1) {
     stage.Texture();
     for (int i = 0; i < 12; ++i) {
         SelectObject(stage.hdc, stage.Keep(UsualFont(stage.dice)));
         Colours(stage);
-        RECT rc = stage.Box(-1, widest, highest);
+        RECT rc = stage.Box(least, widest, highest);
         const std::string text = makeText(stage.dice);
         const UINT flags = format(stage.dice);
         const int cb = stage.dice.OneIn(2) ? -1 : static_cast<int>(text.size());
@@ -155,12 +156,18 @@ UINT Wrapped(Dice& dice) {
 }
 /// The combinations that the controls use.
 UINT AsControlsDo(Dice& dice) {
-    constexpr UINT kFormats[] = {0x0201,
-                                 0x0206,
-                                 DT_CENTER | DT_WORDBREAK | DT_NOCLIP,
-                                 DT_LEFT | DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS,
-                                 DT_CENTER | DT_SINGLELINE | DT_VCENTER,
-                                 DT_RIGHT | DT_SINGLELINE | DT_VCENTER};
+    constexpr UINT kCutLine = DT_SINGLELINE | DT_END_ELLIPSIS;
+    constexpr UINT kFormats[] = {DT_RIGHT | DT_TOP | kCutLine,  // DT_TOP is no flag at all
+                                 DT_RIGHT | DT_BOTTOM | kCutLine,
+                                 DT_RIGHT | DT_VCENTER | kCutLine,
+                                 DT_CENTER | kCutLine,
+                                 DT_CENTER | DT_VCENTER | kCutLine,
+                                 DT_VCENTER | kCutLine,
+                                 DT_SINGLELINE | DT_VCENTER,
+                                 DT_CENTER | DT_SINGLELINE,
+                                 DT_CENTER | DT_BOTTOM | DT_SINGLELINE,
+                                 DT_WORDBREAK,
+                                 DT_CENTER | DT_WORDBREAK | DT_NOCLIP};
     return dice.Of(kFormats);
 }
 
@@ -169,7 +176,10 @@ void LayoutCut(Stage& stage) { Layouts(stage, 80, 30, OneLineCut, MixedText); }
 void LayoutLines(Stage& stage) { Layouts(stage, 100, 60, ManyLines, LayoutText); }
 void LayoutWrapped(Stage& stage) { Layouts(stage, 90, 70, Wrapped, LayoutText); }
 void LayoutTight(Stage& stage) { Layouts(stage, 24, 90, Wrapped, MixedText); }
-void LayoutControls(Stage& stage) { Layouts(stage, 120, 50, AsControlsDo, MixedText); }
+void LayoutControls(Stage& stage) { Layouts(stage, 120, 50, AsControlsDo, ControlText); }
+void LayoutControlsTight(Stage& stage) { Layouts(stage, 30, 12, AsControlsDo, ControlText); }
+/// Rectangles whose edges are exchanged, or without room.
+void LayoutControlsBackwards(Stage& stage) { Layouts(stage, 0, 0, AsControlsDo, ControlText, -40); }
 
 constexpr SIZE kSize{240, 160};
 constexpr PictureKind kKinds[] = {
@@ -191,6 +201,8 @@ constexpr PictureKind kKinds[] = {
     {"layout_wrapped", kSize, LayoutWrapped},
     {"layout_tight", kSize, LayoutTight},
     {"layout_controls", kSize, LayoutControls},
+    {"layout_controls_tight", kSize, LayoutControlsTight},
+    {"layout_controls_backwards", kSize, LayoutControlsBackwards},
     {"smooth_latin", kSize, Latin, Text::kSmooth},
     {"smooth_chinese", kSize, Chinese, Text::kSmooth},
     {"smooth_rare", kSize, Rare, Text::kSmooth},

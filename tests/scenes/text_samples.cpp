@@ -24,6 +24,10 @@ constexpr const char* kRare[] = {"锕",       "瘪",
                                  "\x80",     "\xa8\xbb\xa8\xc0",
                                  "\xaa\xa1", "\xa2\xa3",
                                  "\xfe\x50", "\xd7\xfa"};
+constexpr const char* kNames[] = {
+    "A&B资金", "主力&流入", "&&",         "资金&",  "S&P 500",     "&买入净额一览",
+    "A&&B C",  "万科A&",    "资金\t流入", "a\tb",   "\t",          "行\r\n二",
+    "x\ny",    "A & B",     "浦发银行",   "12.34%", "ST 东方\r红", ""};
 constexpr const char* kGaps[] = {" ", " ", "  ", "   ", "\n", "\r\n", "&", "&", "&&", "\n\n"};
 
 template <std::size_t N>
@@ -61,6 +65,7 @@ HFONT AnyFont(Dice& dice) {
 
 std::string LatinText(Dice& dice) { return Join(dice, kWords, 3); }
 std::string ChineseText(Dice& dice) { return Join(dice, kHan, 3); }
+std::string ControlText(Dice& dice) { return dice.OneIn(3) ? MixedText(dice) : Join(dice, kNames, 3); }
 std::string RareText(Dice& dice) { return Join(dice, kRare, 5); }
 
 std::string MixedText(Dice& dice) {

@@ -24,5 +24,7 @@ std::string RareText(Dice& dice);
 std::string RawText(Dice& dice);
 /// Words, blanks, line ends and prefix marks.
 std::string LayoutText(Dice& dice);
+/// What data may bring a control: names and figures with prefix marks, tabs and line ends among them.
+std::string ControlText(Dice& dice);
 
 }  // namespace scenes

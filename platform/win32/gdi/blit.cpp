@@ -186,11 +186,12 @@ void Transfer(DeviceContext& dst, const RECT& wanted, DeviceContext& src, POINT 
     int count = 0;
     const pixman_box32_t* boxes = ClipOf(dst).Boxes(count);
     const POINT corner{part.left, part.top};
-    if (!BrushOf(dst)) rop = WithoutBrush(rop);
+    const bool brushed = UsesPattern(rop);
+    if (brushed && !BrushOf(dst)) rop = WithoutBrush(rop);
     Source source = SourceFor(dst, src, part,
                               {static_cast<int>(part.left + dx), static_cast<int>(part.top + dy)}, count > 1);
     if (!source.surface) return;
-    const Ink ink = InkOf(dst, corner, source.corner.x);
+    const Ink ink = brushed ? InkOf(dst, corner, source.corner.x) : Ink{};
     for (int i = 0; i < count; ++i) {
         const RECT box = Intersection(part, {boxes[i].x1, boxes[i].y1, boxes[i].x2, boxes[i].y2});
         if (!IsEmpty(box)) TransferBox(*dst.surface, box, source, corner, rop, ink);

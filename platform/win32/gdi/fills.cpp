@@ -59,8 +59,7 @@ int FrameRect(HDC hdc, const RECT* pRect, HBRUSH hBrush) {
     if (!dc || !ObjectOf(hBrush) || !pRect || IsEmpty(*pRect)) return 0;
     const BrushObject* brush = BrushOrSelected(*dc, hBrush);
     const RECT whole = ToSurface(*dc, *pRect);
-    const RECT inner{Saturate(std::int64_t{whole.left} + 1), Saturate(std::int64_t{whole.top} + 1),
-                     Saturate(std::int64_t{whole.right} - 1), Saturate(std::int64_t{whole.bottom} - 1)};
+    const RECT inner = Grown(whole, -1, -1);
     for (const RECT& side : {RECT{whole.left, whole.top, inner.left, whole.bottom},
                              RECT{inner.right, whole.top, whole.right, whole.bottom},
                              RECT{whole.left, whole.top, whole.right, inner.top},

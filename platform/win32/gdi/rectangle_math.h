@@ -23,6 +23,12 @@ inline RECT Moved(const RECT& rect, std::int64_t dx, std::int64_t dy) {
     return {Saturate(rect.left + dx), Saturate(rect.top + dy), Saturate(rect.right + dx),
             Saturate(rect.bottom + dy)};
 }
+/// The rectangle with its left and top edges `before` pixels and its other edges `after` pixels further out;
+/// below zero: further in.
+inline RECT Grown(const RECT& rect, std::int64_t before, std::int64_t after) {
+    return {Saturate(rect.left - before), Saturate(rect.top - before), Saturate(rect.right + after),
+            Saturate(rect.bottom + after)};
+}
 /// The same rectangle with its edges in order.
 inline RECT Ordered(const RECT& rect) {
     return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom), std::max(rect.left, rect.right),
@@ -56,8 +62,7 @@ inline RECT Around(std::span<const POINT> points, int margin) {
     for (const POINT& p : points)
         box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x),
                std::max(box.bottom, p.y)};
-    return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
-            Saturate(std::int64_t{box.right} + margin + 1), Saturate(std::int64_t{box.bottom} + margin + 1)};
+    return Grown(box, margin, std::int64_t{margin} + 1);
 }
 
 }  // namespace tavlon::win32

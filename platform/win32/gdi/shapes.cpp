@@ -11,27 +11,21 @@ using namespace tavlon::win32;
 namespace {
 
 /// What is left inside a border of one pixel; not for empty rectangles.
-RECT InsideBorder(const RECT& r) { return {r.left + 1, r.top + 1, r.right - 1, r.bottom - 1}; }
+RECT InsideBorder(const RECT& r) { return Grown(r, -1, -1); }
 
 /// The pixels that a shape's box holds. A wide pen of style PS_INSIDEFRAME is drawn further inside.
 RECT CurveBox(const DeviceContext& dc, const RECT& logical) {
-    RECT box = Ordered(ToSurface(dc, logical));
+    const RECT box = Ordered(ToSurface(dc, logical));
     const PenObject* pen = VisiblePen(dc);
     if (!pen || pen->style != PS_INSIDEFRAME || pen->width <= 1) return box;
-    const int first = pen->width / 2, last = (pen->width - 1) / 2;
-    box = {Saturate(std::int64_t{box.left} + first), Saturate(std::int64_t{box.top} + first),
-           Saturate(std::int64_t{box.right} - last), Saturate(std::int64_t{box.bottom} - last)};
-    return box;
+    return Grown(box, -(pen->width / 2), -((pen->width - 1) / 2));
 }
 
 /// The same for a rectangle, which is a pixel smaller without a pen to draw its border.
 RECT ShapeBox(const DeviceContext& dc, const RECT& logical) {
-    RECT box = CurveBox(dc, logical);
+    const RECT box = CurveBox(dc, logical);
     const bool bordered = VisiblePen(dc) != nullptr;
-    if (bordered || IsEmpty(box)) return box;
-    --box.right;
-    --box.bottom;
-    return box;
+    return bordered || IsEmpty(box) ? box : Grown(box, 0, -1);
 }
 
 /// The corner pixels of a box, counter-clockwise from the top right.
@@ -42,11 +36,9 @@ std::array<POINT, 4> Corners(const RECT& box) {
 
 /// What drawing a shape in the box can touch with the selected pen.
 RECT Reach(const DeviceContext& dc, const RECT& unordered) {
-    const RECT box = Ordered(unordered);
     const PenObject* pen = VisiblePen(dc);
     const int margin = pen ? pen->width : 0;
-    return {Saturate(std::int64_t{box.left} - margin), Saturate(std::int64_t{box.top} - margin),
-            Saturate(std::int64_t{box.right} + margin), Saturate(std::int64_t{box.bottom} + margin)};
+    return Grown(Ordered(unordered), margin, margin);
 }
 
 /// Where an outline that is drawn whole starts and ends.

@@ -64,10 +64,6 @@ bool SeemsVisible(DeviceContext& dst, const Surface& source, const Stretch& s) {
            MayDraw(dst, Intersection(target, Rectangle(x.Estimate(), y.Estimate())));
 }
 
-}  // namespace
-
-namespace {
-
 /// Fills the known part of `made`; `pixel` gives one of two entries.
 template <class Entries, class Pixel>
 Stretched Fill(Surface& source, const RECT& place, const Entries& columns, const Entries& rows, Pixel pixel) {

@@ -41,7 +41,7 @@ struct Placement {
 Placement Place(const DeviceContext& dc, const FontMetrics& metrics, POINT reference, int width) {
     const UINT align = dc.state.textAlign;
     Placement place{reference, {}};
-    if ((align & kHorizontalMask) == TA_RIGHT) place.pen.x = Add(reference.x, -width);
+    if ((align & kHorizontalMask) == TA_RIGHT) place.pen.x = Add(reference.x, -std::int64_t{width});
     if ((align & kHorizontalMask) == TA_CENTER) place.pen.x = Add(reference.x, -(width / 2));
     if ((align & kVerticalMask) == TA_TOP) place.pen.y = Add(reference.y, metrics.ascent);
     if ((align & kVerticalMask) == TA_BOTTOM) place.pen.y = Add(reference.y, -metrics.descent);
@@ -54,7 +54,7 @@ Placement Place(const DeviceContext& dc, const FontMetrics& metrics, POINT refer
 void MovePosition(DeviceContext& dc, int width) {
     const UINT horizontal = dc.state.textAlign & kHorizontalMask;
     if (horizontal == TA_CENTER) return;
-    dc.state.position.x = Add(dc.state.position.x, horizontal == TA_RIGHT ? -width : width);
+    dc.state.position.x = Add(dc.state.position.x, horizontal == TA_RIGHT ? -std::int64_t{width} : width);
 }
 
 /// Draws the part of a glyph that lies inside `clip`.
@@ -84,7 +84,7 @@ RECT InkBounds(const Placement& place, const FontMetrics& metrics) {
 void DrawGlyphs(DeviceContext& dc, const TextRun& run, POINT pen, const RECT& clip) {
     for (const PlacedGlyph& placed : run.glyphs)
         if (placed.glyph->coverage)
-            DrawGlyph(dc, *placed.glyph, Add(pen.x, placed.x + placed.glyph->left),
+            DrawGlyph(dc, *placed.glyph, Add(pen.x, std::int64_t{placed.x} + placed.glyph->left),
                       Add(pen.y, -placed.glyph->top), clip);
 }
 

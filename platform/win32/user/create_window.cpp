@@ -1,6 +1,7 @@
 #include "user/desktop.h"
 #include "user/geometry.h"
 #include "user/hooks.h"
+#include "user/nonclient.h"
 #include "user/screen.h"
 #include "user/window_end.h"
 #include "user/window_position.h"
@@ -20,8 +21,10 @@ bool IsChildStyle(DWORD style) { return (style & (WS_POPUP | WS_CHILD)) == WS_CH
 
 /// The styles a window always gets with what was asked for. What all top-level windows have is not mentioned.
 void CompleteStyles(CREATESTRUCTA& wanted) {
-    if ((wanted.style & (WS_DLGFRAME | WS_THICKFRAME)) || (wanted.dwExStyle & WS_EX_DLGMODALFRAME))
+    if (HasRaisedEdge(static_cast<DWORD>(wanted.style), wanted.dwExStyle))
         wanted.dwExStyle |= WS_EX_WINDOWEDGE;
+    else
+        wanted.dwExStyle &= ~WS_EX_WINDOWEDGE;
 }
 
 /// CW_USEDEFAULT means something for overlapped windows; others start at 0 with no size.

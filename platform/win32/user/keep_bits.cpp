@@ -65,11 +65,6 @@ Region ValidPart(Window& window, const KeptBits& before, const Region& visibleNo
     return valid;
 }
 
-Region PaintedPart(const Window& window, Region valid, const KeptBits& before) {
-    valid.Subtract(MovedRegion(before.update, ClientShift(window, before)));
-    return valid;
-}
-
 using Pixels = std::vector<std::uint32_t>;
 
 /// Through a buffer, so that source and destination may overlap in any way.
@@ -132,6 +127,11 @@ void InvalidateRest(Window& window, const Region& valid, const Region& visible) 
     if (!rest.Empty()) InvalidateArea(window, rest, RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
+/// Of another size, a window shows its background once more where it was still to be painted.
+void EraseUnpaintedAnew(Window& window, const KeptBits& before) {
+    if (!SameSize(window.client, before.client) && !window.update.Empty()) window.needsErase = true;
+}
+
 void TouchOldAndNew(const Window& window, const KeptBits& before) {
     if (window.parent) return;
     TouchScreen(before.frame);
@@ -142,7 +142,7 @@ void TouchOldAndNew(const Window& window, const KeptBits& before) {
 
 KeptBits RememberBits(Window& window) {
     CollectDamage();
-    return {VisibleFrame(window),  FrameInParents(window), window.update, FrameOnSurface(window),
+    return {VisibleFrame(window),  FrameInParents(window), FrameOnSurface(window),
             ClientInFrame(window), window.frame,           window.client};
 }
 
@@ -152,7 +152,8 @@ bool MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
     const Region valid = ValidPart(window, before, visibleNow, positionFlags);
     const SurfaceRef oldSurface = RootOf(window).surface;
     if (!window.parent) FitSurface(window);
-    CopyValid(window, before, PaintedPart(window, valid, before), oldSurface);
+    // Told not to redraw, a child leaves the pixels of the surface as they are.
+    if (!window.parent || !(positionFlags & SWP_NOREDRAW)) CopyValid(window, before, valid, oldSurface);
     CutUnseenUpdates(window);
     Region uncovered = before.visible, left = before.inParents;
     uncovered.Subtract(visibleNow);
@@ -160,6 +161,7 @@ bool MoveKeptBits(Window& window, const KeptBits& before, UINT positionFlags) {
     if (!(positionFlags & SWP_NOREDRAW)) {
         InvalidateUncovered(window, uncovered);
         InvalidateRest(window, valid, visibleNow);
+        EraseUnpaintedAnew(window, before);
     }
     return !left.Empty() || !uncovered.Empty();
 }

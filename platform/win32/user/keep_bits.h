@@ -9,7 +9,6 @@ namespace tavlon::win32 {
 struct KeptBits {
     Region visible;    ///< Of the frame, on the surface.
     Region inParents;  ///< The same without regard to siblings.
-    Region update;     ///< Not yet painted, relative to the frame.
     POINT onSurface{}, clientInFrame{};
     RECT frame{}, client{};
 };

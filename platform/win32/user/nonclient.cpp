@@ -13,11 +13,19 @@ namespace {
 constexpr int kEdge = 2;          // a sunken edge around the client area
 constexpr int kCornerReach = 22;  // how far along an edge the corners can be gripped
 
+/// Two raised rings around dialogs and sizing frames, unless one sunken ring is asked for instead.
+int OuterEdge(DWORD style, DWORD exStyle) {
+    if (exStyle & WS_EX_DLGMODALFRAME) return 2;
+    if (exStyle & WS_EX_STATICEDGE) return 1;
+    return (style & (WS_DLGFRAME | WS_THICKFRAME)) ? 2 : 0;
+}
+
+bool HasLine(DWORD style, DWORD exStyle) {
+    return (exStyle & WS_EX_DLGMODALFRAME) || (style & (WS_BORDER | WS_DLGFRAME));
+}
+
 int BorderWidth(DWORD style, DWORD exStyle) {
-    const bool modal = (exStyle & WS_EX_DLGMODALFRAME) != 0;
-    const bool dialog = modal || (style & (WS_DLGFRAME | WS_THICKFRAME)) != 0;
-    const bool line = modal || (style & (WS_BORDER | WS_DLGFRAME)) != 0;
-    return (dialog ? 2 : 0) + ((style & WS_THICKFRAME) ? 1 : 0) + (line ? 1 : 0);
+    return OuterEdge(style, exStyle) + ((style & WS_THICKFRAME) ? 1 : 0) + (HasLine(style, exStyle) ? 1 : 0);
 }
 
 bool HasCaption(DWORD style) { return (style & WS_CAPTION) == WS_CAPTION; }
@@ -45,7 +53,7 @@ int EdgeCode(const RECT& frame, POINT pt, int border) {
 
 /// Where a sizing frame without a line of its own meets a sunken edge, one more pixel can be gripped.
 int GripWidth(const Window& window) {
-    const bool bare = !(window.style & (WS_BORDER | WS_DLGFRAME)) && !(window.exStyle & WS_EX_DLGMODALFRAME);
+    const bool bare = !HasLine(window.style, window.exStyle);
     const bool more = bare && window.Has(WS_THICKFRAME) && (window.exStyle & WS_EX_CLIENTEDGE);
     return BorderWidth(window.style, window.exStyle) + (more ? 1 : 0);
 }
@@ -72,21 +80,49 @@ int CaptionCode(const Window& window, const RECT& caption, POINT pt) {
     return HTCAPTION;
 }
 
+/// One ring, with light from the left top; the rectangle shrinks to what is inside it. In a window too small
+/// for its rings the rectangle turns over, and the bars run backwards.
+void Ring(HDC hdc, RECT& rect, int leftTop, int rightBottom) {
+    const int width = rect.right - rect.left, height = rect.bottom - rect.top;
+    const HGDIOBJ hOld = SelectObject(hdc, GetSysColorBrush(leftTop));
+    PatBlt(hdc, rect.left, rect.top, 1, height, PATCOPY);
+    PatBlt(hdc, rect.left, rect.top, width, 1, PATCOPY);
+    SelectObject(hdc, GetSysColorBrush(rightBottom));
+    PatBlt(hdc, rect.right - 1, rect.top, 1, height, PATCOPY);
+    PatBlt(hdc, rect.left, rect.bottom - 1, width, 1, PATCOPY);
+    SelectObject(hdc, hOld);
+    InflateRect(&rect, -1, -1);
+}
+
+void OuterRings(HDC hdc, RECT& rect, int edge) {
+    if (edge == 1) Ring(hdc, rect, COLOR_3DSHADOW, COLOR_3DHILIGHT);
+    if (edge != 2) return;
+    Ring(hdc, rect, COLOR_3DLIGHT, COLOR_3DDKSHADOW);
+    Ring(hdc, rect, COLOR_3DHILIGHT, COLOR_3DSHADOW);
+}
+
+/// The line looks like the face beside an edge, and like a drawn frame without one.
+int LineColour(const Window& window) {
+    const bool edged = HasRaisedEdge(window.style, window.exStyle) || (window.exStyle & WS_EX_CLIENTEDGE);
+    return edged ? COLOR_3DFACE : COLOR_WINDOWFRAME;
+}
+
 void FrameRings(HDC hdc, const Window& window) {
-    RECT ring = LocalRect(window.Width(), window.Height());
-    const int border = BorderWidth(window.style, window.exStyle);
-    const bool plain = border == 1 && !window.Has(WS_DLGFRAME);
-    for (int i = 0; i < border; ++i) {
-        const int colour = plain ? COLOR_WINDOWFRAME : i == 0 ? COLOR_3DSHADOW : COLOR_3DFACE;
-        FrameRect(hdc, &ring, GetSysColorBrush(colour));
-        InflateRect(&ring, -1, -1);
-    }
+    RECT rect = LocalRect(window.Width(), window.Height());
+    const int line = LineColour(window);
+    OuterRings(hdc, rect, OuterEdge(window.style, window.exStyle));
+    if (window.Has(WS_THICKFRAME)) Ring(hdc, rect, COLOR_ACTIVEBORDER, COLOR_ACTIVEBORDER);
+    if (HasLine(window.style, window.exStyle)) Ring(hdc, rect, line, line);
+}
+
+void SunkenEdge(HDC hdc, const Window& window) {
     if (!(window.exStyle & WS_EX_CLIENTEDGE)) return;
-    ring.top += CaptionHeight(window.style, window.exStyle);
-    for (int colour : {COLOR_3DSHADOW, COLOR_3DDKSHADOW}) {
-        FrameRect(hdc, &ring, GetSysColorBrush(colour));
-        InflateRect(&ring, -1, -1);
-    }
+    const int border = BorderWidth(window.style, window.exStyle);
+    RECT rect = LocalRect(window.Width(), window.Height());
+    InflateRect(&rect, -border, -border);
+    rect.top += CaptionHeight(window.style, window.exStyle);
+    Ring(hdc, rect, COLOR_3DSHADOW, COLOR_3DHILIGHT);
+    Ring(hdc, rect, COLOR_3DDKSHADOW, COLOR_3DLIGHT);
 }
 
 void PaintCloseButton(HDC hdc, const RECT& caption) {
@@ -114,7 +150,7 @@ void PaintCaption(HDC hdc, const Window& window, const std::string& text) {
     const bool active = GetActiveWindow() == window.self;
     FillRect(hdc, &caption, GetSysColorBrush(active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
     RECT line{caption.left, caption.bottom, caption.right, caption.bottom + 1};
-    FillRect(hdc, &line, GetSysColorBrush(COLOR_3DFACE));
+    FillRect(hdc, &line, GetSysColorBrush(LineColour(window)));
     if (window.Has(WS_SYSMENU)) PaintCloseButton(hdc, caption);
     const HGDIOBJ hOld = SelectObject(hdc, GetStockObject(DEFAULT_GUI_FONT));
     SetBkMode(hdc, TRANSPARENT);
@@ -153,6 +189,8 @@ RECT FrameMargins(DWORD style, DWORD exStyle) {
     return {border, border + CaptionHeight(style, exStyle), border, border};
 }
 
+bool HasRaisedEdge(DWORD style, DWORD exStyle) { return OuterEdge(style, exStyle) == 2; }
+
 LRESULT CalculateClient(RECT& rect, const Window& window) {
     rect = Within(ClampedRect(rect), FrameMargins(window.style, window.exStyle & ~WS_EX_CLIENTEDGE));
     const bool room = rect.right - rect.left > 2 * kEdge && rect.bottom - rect.top > 2 * kEdge;
@@ -182,10 +220,11 @@ void PaintFrame(HWND hWnd, HRGN hClip) {
     ClipToFrame(hdc, *window, hClip);
     FrameRings(hdc, *window);
     const RECT caption = CaptionRect(*window);
-    if (HasCaption(window->style) && RectVisible(hdc, &caption)) {
+    if (HasCaption(window->style) && !IsRectEmpty(&caption) && RectVisible(hdc, &caption)) {
         const std::string text = CaptionText(hWnd);
         if ((window = WindowOf(hWnd))) PaintCaption(hdc, *window, text);
     }
+    if (window) SunkenEdge(hdc, *window);
     ReleaseDC(hWnd, hdc);
 }
 

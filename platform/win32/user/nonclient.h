@@ -7,6 +7,8 @@ namespace tavlon::win32 {
 
 /// How far the client area lies inside the frame; `top` counts the caption.
 RECT FrameMargins(DWORD style, DWORD exStyle);
+/// Dialogs and sizing frames have a raised edge, unless a thin sunken one is asked for.
+bool HasRaisedEdge(DWORD style, DWORD exStyle);
 LRESULT CalculateClient(RECT& rect, const Window& window);
 LRESULT HitTestFrame(HWND hWnd, POINT pt);
 /// `hClip`: 1 for everything, else a region on the screen.

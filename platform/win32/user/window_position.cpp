@@ -218,7 +218,7 @@ MINMAXINFO AskSizeLimits(HWND hWnd) {
     MINMAXINFO limits{{0, 0},
                       {room.right + 2 * border, room.bottom + 2 * border},
                       {-border, -border},
-                      window->Has(WS_CAPTION) ? kCaptionAndButtons : POINT{2 * border, 2 * border},
+                      (window->style & WS_CAPTION) ? kCaptionAndButtons : POINT{2 * border, 2 * border},
                       {screen.right + 2 * widest, screen.bottom + 2 * widest}};
     SendMessageA(hWnd, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     return limits;
