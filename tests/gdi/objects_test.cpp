@@ -15,27 +15,6 @@ protected:
     void TearDown() override { DeleteDC(m_dc); }
 };
 
-TEST_F(GdiObjects, AFreshContext) {
-    BITMAP bitmap{};
-    EXPECT_EQ(static_cast<int>(sizeof bitmap),
-              GetObjectA(GetCurrentObject(m_dc, OBJ_BITMAP), sizeof bitmap, &bitmap));
-    EXPECT_EQ(1, bitmap.bmWidth);
-    EXPECT_EQ(1, bitmap.bmHeight);
-    EXPECT_EQ(1, bitmap.bmBitsPixel);
-    EXPECT_EQ(GetStockObject(BLACK_PEN), GetCurrentObject(m_dc, OBJ_PEN));
-    EXPECT_EQ(GetStockObject(WHITE_BRUSH), GetCurrentObject(m_dc, OBJ_BRUSH));
-    EXPECT_EQ(GetStockObject(SYSTEM_FONT), GetCurrentObject(m_dc, OBJ_FONT));
-    EXPECT_EQ(0u, GetTextColor(m_dc));
-    EXPECT_EQ(0xffffffu, GetBkColor(m_dc));
-    EXPECT_EQ(OPAQUE, GetBkMode(m_dc));
-    EXPECT_EQ(0u, GetTextAlign(m_dc));
-    EXPECT_EQ(R2_COPYPEN, GetROP2(m_dc));
-    EXPECT_EQ(ALTERNATE, GetPolyFillMode(m_dc));
-    EXPECT_EQ(BLACKONWHITE, GetStretchBltMode(m_dc));
-    EXPECT_EQ(MM_TEXT, GetMapMode(m_dc));
-    EXPECT_EQ(static_cast<DWORD>(OBJ_MEMDC), GetObjectType(m_dc));
-}
-
 TEST_F(GdiObjects, SelectingAnswersTheOldObject) {
     HPEN pen = CreatePen(PS_SOLID, 2, 0);
     HBRUSH brush = CreateSolidBrush(0);
@@ -123,33 +102,6 @@ TEST_F(GdiObjects, SavedStates) {
     EXPECT_FALSE(RestoreDC(m_dc, -1));
 }
 
-TEST_F(GdiObjects, Records) {
-    LOGPEN pen{};
-    HPEN null = CreatePen(PS_NULL, 7, 5);
-    GetObjectA(null, sizeof pen, &pen);
-    EXPECT_EQ(static_cast<UINT>(PS_NULL), pen.lopnStyle);
-    HPEN odd = CreatePen(99, -5, 5);
-    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, 100, &pen));
-    EXPECT_EQ(static_cast<UINT>(PS_SOLID), pen.lopnStyle);
-    EXPECT_EQ(5, pen.lopnWidth.x);
-    EXPECT_EQ(0, GetObjectA(odd, 4, &pen));
-    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, 0, nullptr));
-    EXPECT_EQ(static_cast<int>(sizeof pen), GetObjectA(odd, -1, &pen));  // counts as a huge size
-    WORD entries = 0;
-    EXPECT_EQ(2, GetObjectA(GetStockObject(DEFAULT_PALETTE), sizeof entries, &entries));
-    EXPECT_EQ(20, entries);
-    DeleteObject(odd);
-
-    LOGFONTA font{};
-    HFONT made =
-        CreateFontA(14, 0, 0, 0, FW_BOLD, 1, 0, 0, 1, 0, 0, 2, 0, "a name of more than thirty-one bytes");
-    EXPECT_EQ(static_cast<int>(sizeof font), GetObjectA(made, sizeof font, &font));
-    EXPECT_EQ(std::size_t{31}, std::strlen(font.lfFaceName));
-    EXPECT_EQ(14, font.lfHeight);
-    EXPECT_EQ(FW_BOLD, font.lfWeight);
-    DeleteObject(made);
-}
-
 TEST_F(GdiObjects, AttributesRefuseValuesOutOfRange) {
     EXPECT_EQ(0, SetBkMode(m_dc, 3));
     EXPECT_EQ(0, SetROP2(m_dc, 17));
@@ -161,24 +113,6 @@ TEST_F(GdiObjects, AttributesRefuseValuesOutOfRange) {
     EXPECT_EQ(0xffffu, GetTextAlign(m_dc));
     EXPECT_EQ(RGB(0, 0, 0), SetTextColor(m_dc, RGB(9, 9, 9)));
     EXPECT_EQ(RGB(9, 9, 9), SetTextColor(m_dc, RGB(1, 1, 1)));
-}
-
-TEST_F(GdiObjects, Origins) {
-    POINT point{};
-    EXPECT_TRUE(SetViewportOrgEx(m_dc, 5, 6, nullptr));
-    EXPECT_TRUE(SetWindowOrgEx(m_dc, 1, 2, &point));
-    EXPECT_EQ(0, point.x);
-    point = {10, 10};
-    EXPECT_TRUE(LPtoDP(m_dc, &point, 1));
-    EXPECT_EQ(14, point.x);
-    EXPECT_EQ(14, point.y);
-    EXPECT_TRUE(DPtoLP(m_dc, &point, 1));
-    EXPECT_EQ(10, point.x);
-    EXPECT_TRUE(MoveToEx(m_dc, 3, 4, nullptr));
-    EXPECT_TRUE(LineTo(m_dc, 7, 8));
-    EXPECT_TRUE(GetCurrentPositionEx(m_dc, &point));
-    EXPECT_EQ(7, point.x);
-    EXPECT_EQ(8, point.y);
 }
 
 }  // namespace

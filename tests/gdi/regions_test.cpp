@@ -1,4 +1,4 @@
-/// Regions: their algebra, and clipping with them.
+/// Regions of any size and refused calls, and clipping with them.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -22,55 +22,6 @@ public:
 private:
     HRGN m_region;
 };
-
-std::string Painted(HRGN region) {
-    Picture picture(6, 4);
-    FillRgn(picture.Dc(), region, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    return picture.Text();
-}
-
-TEST(GdiRegions, Combining) {
-    struct Case {
-        const char* name;
-        int mode, complexity;
-        const char* want;
-    };
-    for (const Case& c : {Case{"and", RGN_AND, SIMPLEREGION, "......\n..##..\n......\n......\n"},
-                          Case{"or", RGN_OR, COMPLEXREGION, "####..\n######\n..####\n......\n"},
-                          Case{"xor", RGN_XOR, COMPLEXREGION, "####..\n##..##\n..####\n......\n"},
-                          Case{"diff", RGN_DIFF, COMPLEXREGION, "####..\n##....\n......\n......\n"},
-                          Case{"copy", RGN_COPY, SIMPLEREGION, "####..\n####..\n......\n......\n"}}) {
-        SCOPED_TRACE(c.name);
-        Rgn first(0, 0, 4, 2), second(2, 1, 6, 3), result(0, 0, 0, 0);
-        EXPECT_EQ(c.complexity, CombineRgn(result, first, second, c.mode));
-        EXPECT_EQ(c.want, Painted(result));
-    }
-}
-
-TEST(GdiRegions, Questions) {
-    Rgn region(6, 4, 2, 1);  // corners in any order
-    RECT box{};
-    EXPECT_EQ(SIMPLEREGION, GetRgnBox(region, &box));
-    EXPECT_EQ(2, box.left);
-    EXPECT_EQ(4, box.bottom);
-    EXPECT_TRUE(PtInRegion(region, 2, 1));
-    EXPECT_FALSE(PtInRegion(region, 6, 1));
-    EXPECT_FALSE(PtInRegion(region, 2, 4));
-    const RECT touching{5, 3, 9, 9}, beside{6, 1, 9, 4};
-    EXPECT_TRUE(RectInRegion(region, &touching));
-    EXPECT_FALSE(RectInRegion(region, &beside));
-    const RECT line{3, 0, 3, 9}, edge{2, 0, 2, 9};  // without area
-    EXPECT_TRUE(RectInRegion(region, &line));
-    EXPECT_FALSE(RectInRegion(region, &edge));
-
-    Rgn moved(3, 3, 7, 6), empty(3, 3, 3, 9);
-    EXPECT_FALSE(EqualRgn(region, moved));
-    EXPECT_EQ(SIMPLEREGION, OffsetRgn(moved, -1, -2));
-    EXPECT_TRUE(EqualRgn(region, moved));
-    EXPECT_EQ(NULLREGION, GetRgnBox(empty, &box));
-    EXPECT_TRUE(SetRectRgn(empty, 2, 1, 6, 4));
-    EXPECT_TRUE(EqualRgn(region, empty));
-}
 
 TEST(GdiRegions, CoordinatesMayBeAnyNumber) {
     Rgn all(INT_MIN, INT_MIN, INT_MAX, INT_MAX), part(-2000000000, 0, 10, 10);
@@ -119,50 +70,6 @@ TEST(GdiClipping, OnlyTheClipIsPainted) {
     SetPixelV(hdc, 3, 0, 0);
     EXPECT_EQ(0xffffffu, GetPixel(hdc, 3, 0));  // the clip does not hinder reading
     EXPECT_EQ(CLR_INVALID, GetPixel(hdc, 6, 0));
-}
-
-TEST(GdiClipping, NarrowingAndAsking) {
-    Picture picture(20, 10);
-    HDC hdc = picture.Dc();
-    Rgn clip(0, 0, 0, 0);
-    RECT box{};
-    EXPECT_EQ(0, GetClipRgn(hdc, clip));
-    EXPECT_EQ(SIMPLEREGION, IntersectClipRect(hdc, 2, 2, 30, 8));
-    EXPECT_EQ(1, GetClipRgn(hdc, clip));
-    EXPECT_EQ(SIMPLEREGION, GetClipBox(hdc, &box));
-    EXPECT_EQ(20, box.right);
-    EXPECT_EQ(8, box.bottom);
-    SetViewportOrgEx(hdc, 2, 1, nullptr);
-    GetClipBox(hdc, &box);
-    EXPECT_EQ(0, box.left);
-    EXPECT_EQ(1, box.top);
-    EXPECT_EQ(COMPLEXREGION, ExcludeClipRect(hdc, 3, 2, 5, 4));
-    EXPECT_TRUE(PtVisible(hdc, 2, 2));
-    EXPECT_FALSE(PtVisible(hdc, 3, 2));
-    EXPECT_EQ(SIMPLEREGION, ExtSelectClipRgn(hdc, clip, RGN_COPY));
-    EXPECT_EQ(NULLREGION, ExtSelectClipRgn(hdc, clip, RGN_DIFF));
-    EXPECT_EQ(NULLREGION, GetClipBox(hdc, &box));
-    SelectClipRgn(hdc, nullptr);
-    EXPECT_EQ(0, GetClipRgn(hdc, clip));
-}
-
-TEST(GdiClipping, OnABitmapTheClipMayReachBeyond) {
-    Picture picture(20, 10);
-    HDC hdc = picture.Dc();
-    Rgn copy(0, 0, 0, 0);
-    RECT box{};
-    EXPECT_EQ(SIMPLEREGION, IntersectClipRect(hdc, -5, 12, 8, 30));
-    GetClipRgn(hdc, copy);
-    GetRgnBox(copy, &box);
-    EXPECT_EQ(-5, box.left);
-    EXPECT_EQ(30, box.bottom);
-    EXPECT_EQ(NULLREGION, GetClipBox(hdc, &box));  // the edges of what is left cross
-    EXPECT_EQ(12, box.top);
-    EXPECT_EQ(10, box.bottom);
-    const RECT both{5, 9, 9, 13}, clipOnly{0, 13, 4, 15};
-    EXPECT_TRUE(RectVisible(hdc, &both));
-    EXPECT_FALSE(RectVisible(hdc, &clipOnly));
-    EXPECT_FALSE(PtVisible(hdc, 5, 13));
 }
 
 TEST(GdiClipping, RefusedChanges) {

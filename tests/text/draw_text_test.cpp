@@ -76,23 +76,6 @@ TEST(DrawText, WordBreak) {
         Check(c);
 }
 
-TEST(DrawText, PlacesForBreaks) {
-    for (const Layout& c :
-         {Layout{"behind a hyphen", "ab-cd", DT_WORDBREAK, 26, 50, 30, 30, 19, 30},
-          Layout{"behind a slash", "ab/cd", DT_WORDBREAK, 26, 50, 30, 30, 19, 30},
-          Layout{"not inside a number", "1.5", DT_WORDBREAK, 10, 50, 15, 15, 20, 15},
-          Layout{"not before a percent sign", "5%", DT_WORDBREAK, 8, 50, 15, 15, 13, 15},
-          Layout{"not before a closing sign, even behind spaces", "ab 。", DT_WORDBREAK, 20, 50, 15, 15, 32,
-                 15},
-          Layout{"the end of what fits is none", "ab cd Hello", DT_WORDBREAK, 34, 50, 45, 45, 34, 45},
-          Layout{"one space hangs at a break", "ab   cd", DT_WORDBREAK, 40, 50, 30, 30, 33, 30},
-          Layout{"and counts for nothing on the right", "ab   cd", DT_WORDBREAK | DT_RIGHT, 40, 50, 30, 30,
-                 26, 30},
-          Layout{"the space that does not fit is dropped", "ab cd", DT_WORDBREAK, 14, 50, 30, 30, 14, 30},
-          Layout{"no width, no breaks", "ab cd", DT_WORDBREAK, -1, 50, 15, 15, 33, 15}})
-        Check(c);
-}
-
 TEST(DrawText, Ellipsis) {
     const UINT nOneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
     for (const Layout& c :
@@ -120,25 +103,6 @@ TEST(DrawText, PrefixesAndTabs) {
         Check(c);
 }
 
-TEST(DrawText, InkStandsWhereAsked) {
-    struct Case {
-        const char* pszName;
-        UINT nFormat;
-        RECT rcInk;
-    };
-    for (const Case& c :
-         {Case{"left, top", 0, {11, 15, 43, 22}}, Case{"centre", DT_CENTER, {24, 15, 56, 22}},
-          Case{"middle", DT_VCENTER, {11, 28, 43, 35}}, Case{"bottom", DT_BOTTOM, {11, 40, 43, 47}}}) {
-        SCOPED_TRACE(c.pszName);
-        TextCanvas canvas(kFaces[0], kFontHeight);
-        RECT rc{10, 10, 70, 50};
-        DrawTextA(canvas.hdc, "Hello", 5, &rc, c.nFormat | DT_SINGLELINE);
-        const RECT rcInk = canvas.Ink();
-        EXPECT_EQ(0, std::memcmp(&c.rcInk, &rcInk, sizeof rcInk))
-            << rcInk.left << "," << rcInk.top << "," << rcInk.right << "," << rcInk.bottom;
-    }
-}
-
 TEST(DrawText, ClipsUnlessTold) {
     TextCanvas canvas(kFaces[0], kFontHeight);
     RECT rc{10, 10, 30, 20};
@@ -148,29 +112,6 @@ TEST(DrawText, ClipsUnlessTold) {
     DrawTextA(canvas.hdc, "Hello", 5, &rc, DT_SINGLELINE | DT_NOCLIP);
     EXPECT_EQ(43, canvas.Ink().right);
     EXPECT_EQ(22, canvas.Ink().bottom);
-}
-
-TEST(DrawText, PrefixLine) {
-    struct Case {
-        const char* pszName;
-        const char* pszText;
-        int cy;
-        LONG yBottom;
-    };
-    // The ascent is 13: the line is the 15th row, and the row below the rectangle still shows it.
-    for (const Case& c : {Case{"inside", "&e", 15, 25}, Case{"one row below", "&e", 14, 25},
-                          Case{"two rows below", "&e", 13, 22}, Case{"no mark", "e", 15, 22}}) {
-        SCOPED_TRACE(c.pszName);
-        TextCanvas canvas(kFaces[0], kFontHeight);
-        RECT rc{10, 10, 70, 10 + c.cy};
-        DrawTextA(canvas.hdc, c.pszText, -1, &rc, DT_SINGLELINE);
-        EXPECT_EQ(c.yBottom, canvas.Ink().bottom);
-    }
-    TextCanvas canvas(kFaces[0], kFontHeight);
-    RECT rc{10, 10, 70, 50};
-    DrawTextA(canvas.hdc, "&e&e", -1, &rc, DT_SINGLELINE);
-    EXPECT_EQ(0xffffffu, canvas.Pixel(10, 24)) << "only the last mark shows";
-    EXPECT_EQ(0u, canvas.Pixel(17, 24));
 }
 
 TEST(DrawText, EllipsisLooksLikeDots) {

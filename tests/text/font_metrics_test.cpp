@@ -55,34 +55,6 @@ TEST(FontMetrics, Extents) {
     }
 }
 
-TEST(FontMetrics, AskedWidths) {
-    struct Case {
-        const char* pszName;
-        int nHeight, nWidth, nAverage, cx;
-    };
-    for (const Case& c : {Case{"the face's own", 16, 0, 7, 14}, Case{"narrow", 16, 4, 4, 8},
-                          Case{"wide", 16, 14, 14, 28}, Case{"nothing without a height", 0, 14, 7, 14}}) {
-        SCOPED_TRACE(c.pszName);
-        const TextCanvas canvas(kFaces[0], 16);
-        const HFONT hFont = CreateFontA(c.nHeight, c.nWidth, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
-                                        NONANTIALIASED_QUALITY, 0, kFaces[0]);
-        const HGDIOBJ hOld = SelectObject(canvas.hdc, hFont);
-        EXPECT_EQ(c.nAverage, canvas.Metrics().tmAveCharWidth);
-        EXPECT_EQ(c.cx, canvas.Extent("价").cx);
-        DeleteObject(SelectObject(canvas.hdc, hOld));
-    }
-}
-
-TEST(FontMetrics, Traits) {
-    const TEXTMETRICA kai = TextCanvas(kFaces[0], 14).Metrics(), sans = TextCanvas(kFaces[1], 14).Metrics();
-    EXPECT_EQ(GB2312_CHARSET, kai.tmCharSet);
-    EXPECT_EQ(ANSI_CHARSET, sans.tmCharSet);
-    EXPECT_EQ(0x1e, kai.tmFirstChar);
-    EXPECT_EQ(0x20, sans.tmFirstChar);
-    EXPECT_NE(0, kai.tmPitchAndFamily & TMPF_TRUETYPE);
-    EXPECT_EQ(0, sans.tmPitchAndFamily & TMPF_TRUETYPE);
-}
-
 TEST(FontMetrics, ExtentsAddUp) {
     for (const char* pszFace : kFaces)
         for (int nHeight = 10; nHeight <= 18; ++nHeight) {
