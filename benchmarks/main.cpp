@@ -15,5 +15,13 @@ int main(int argc, char** argv) {
     reporter.PrintRatio("value radar, full repaint : floor", "ValueRadar/FullRepaint", "Floor/Picture");
     reporter.PrintRatio("value radar, hover move : full repaint", "ValueRadar/HoverMove",
                         "ValueRadar/FullRepaint");
+    reporter.PrintRatio("value radar, drag move : full repaint", "ValueRadar/DragMove",
+                        "ValueRadar/FullRepaint");
+    reporter.PrintRatio("value radar, band move : full repaint", "ValueRadar/BandMove",
+                        "ValueRadar/FullRepaint");
+    reporter.PrintRatio("hit grid, find : hover move", "HitGrid/Find", "ValueRadar/HoverMove");
+    reporter.PrintRatio("hit grid, rebuild : full repaint", "HitGrid/Rebuild3000", "ValueRadar/FullRepaint");
+    reporter.PrintRatio("hit grid, find : linear search", "HitGrid/Find", "HitGrid/LinearSearch");
+    reporter.PrintRatio("hit grid, rebuild : linear search", "HitGrid/Rebuild3000", "HitGrid/LinearSearch");
     return 0;
 }

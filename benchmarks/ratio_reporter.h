@@ -22,7 +22,7 @@ public:
     void PrintRatio(const char* pszTitle, const std::string& name, const std::string& base) const {
         const auto it = m_seconds.find(name), itBase = m_seconds.find(base);
         if (it == m_seconds.end() || itBase == m_seconds.end() || itBase->second <= 0) return;
-        std::printf("%s = %.3f\n", pszTitle, it->second / itBase->second);
+        std::printf("%s = %.3g\n", pszTitle, it->second / itBase->second);
     }
 
 private:

@@ -1,8 +1,10 @@
 #include "main_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/error.h"
+#include "pages.h"
 
 namespace gallery {
 
@@ -11,6 +13,7 @@ constexpr UINT_PTR kTimerId = 1;
 constexpr UINT kTickMs = 10;
 constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
 constexpr char kCaption[] = "Tavlon";
+constexpr char kKeysInCaption[] = "（PageUp、PageDown换页）";
 
 SIZE WindowSizeFor(PageSize size) {
     RECT rc{0, 0, size.cx, size.cy};
@@ -23,6 +26,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CWnd)
 ON_WM_SIZE()
 ON_WM_ERASEBKGND()
 ON_WM_DESTROY()
+ON_WM_SETFOCUS()
 ON_WM_TIMER()
 ON_WM_GETMINMAXINFO()
 END_MESSAGE_MAP()
@@ -45,7 +49,31 @@ void MainWindow::ShowPage(const PageEntry& page) {
     if (!pNew->CreateOn(*this, ClientArea()))
         throw Error("the windows of page " + page.name + " cannot be made");
     m_pPage = std::move(pNew);
+    m_strPage = page.name;
+    SetWindowText((kCaption + ("：" + page.title) + kKeysInCaption).c_str());
     m_pPage->SetFocus();
+}
+
+void MainWindow::TurnPages(int nBy) {
+    const auto& pages = Pages();
+    const auto nAll = static_cast<int>(pages.size());
+    const auto it = std::ranges::find(pages, m_strPage, &PageEntry::name);
+    const int nNext = (static_cast<int>(it - pages.begin()) + nBy + nAll) % nAll;
+    ShowPage(pages[static_cast<std::size_t>(nNext)]);
+}
+
+BOOL MainWindow::PreTranslateMessage(MSG* pMsg) {
+    const bool bNext = pMsg->wParam == VK_NEXT;
+    if (pMsg->message != WM_KEYDOWN || (!bNext && pMsg->wParam != VK_PRIOR))
+        return CWnd::PreTranslateMessage(pMsg);
+    TurnPages(bNext ? 1 : -1);
+    return TRUE;
+}
+
+/// The keyboard comes here when the window is brought to the front.
+void MainWindow::OnSetFocus(CWnd* pOldWnd) {
+    CWnd::OnSetFocus(pOldWnd);
+    if (m_pPage) m_pPage->SetFocus();
 }
 
 void MainWindow::SetPageSize(PageSize size) {

@@ -1,4 +1,5 @@
-/// The gallery's top-level window: one page at a time fills its client area.
+/// The gallery's top-level window: one page at a time fills its client area. PageDown and PageUp turn the
+/// pages.
 #pragma once
 
 #include <functional>
@@ -22,9 +23,12 @@ public:
     void StartTicking(std::function<void()> tick);
     void StopTicking();
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* pInfo);
     afx_msg void OnDestroy();
@@ -32,9 +36,11 @@ protected:
 
 private:
     CRect ClientArea() const;
+    void TurnPages(int nBy);  ///< Past the last page comes the first.
 
     std::filesystem::path m_dataDir;
     std::unique_ptr<Page> m_pPage;
+    std::string m_strPage;  ///< Name of the page shown.
     std::function<void()> m_tick;
 };
 

@@ -15,12 +15,18 @@ constexpr int kNoteFontHeight = 14;
 
 /// The page's own drawing leaves its children out, so that the controls do not flicker when it repaints.
 constexpr DWORD kPageStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN;
+
+bool IsPress(UINT nMessage) {
+    return nMessage == WM_LBUTTONDOWN || nMessage == WM_LBUTTONDBLCLK || nMessage == WM_RBUTTONDOWN ||
+           nMessage == WM_RBUTTONDBLCLK;
+}
 }  // namespace
 
 BEGIN_MESSAGE_MAP(Page, CWnd)
 ON_WM_PAINT()
 ON_WM_ERASEBKGND()
 ON_WM_SIZE()
+ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
 BOOL Page::CreateOn(CWnd& wndParent, const CRect& rc) {
@@ -30,6 +36,19 @@ BOOL Page::CreateOn(CWnd& wndParent, const CRect& rc) {
     m_bReady = true;
     PlaceControls(ContentRect());
     return TRUE;
+}
+
+BOOL Page::PreTranslateMessage(MSG* pMsg) {
+    if (IsPress(pMsg->message) && ::IsChild(m_hWnd, pMsg->hwnd) && ::GetFocus() != pMsg->hwnd)
+        ::SetFocus(pMsg->hwnd);
+    if (pMsg->message == WM_KEYDOWN && OnKey(static_cast<UINT>(pMsg->wParam))) return TRUE;
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+/// The page itself has no use for keys: they go to its first control.
+void Page::OnSetFocus(CWnd* pOldWnd) {
+    CWnd::OnSetFocus(pOldWnd);
+    if (const HWND hControl = ::GetWindow(m_hWnd, GW_CHILD)) ::SetFocus(hControl);
 }
 
 void Page::SetNotes(std::vector<std::string> notes) {

@@ -2,7 +2,7 @@
 /// show.
 #pragma once
 
-#include <tavlon/tavlon.h>
+#include <tavlon/framework.h>
 
 #include <filesystem>
 #include <memory>
@@ -16,6 +16,8 @@ public:
     /// Makes the page, visible, over the given part of the parent, with its controls filled. FALSE: a window
     /// could not be made.
     BOOL CreateOn(CWnd& wndParent, const CRect& rc);
+    /// A press on a control gives it the keyboard; controls do not all take it themselves.
+    BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
     /// Makes the controls and gives them their data. Called once, when the page's window exists.
@@ -24,6 +26,10 @@ protected:
     /// size.
     virtual void PlaceControls(const CRect& rcContent) = 0;
 
+    /// A key was pressed while the page or one of its controls had the keyboard. True: the page used it, the
+    /// control does not get it.
+    virtual bool OnKey(UINT /*nKey*/) { return false; }
+
     /// The lines under the controls, code page 936.
     void SetNotes(std::vector<std::string> notes);
     CRect ContentRect() const;
@@ -31,6 +37,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -7,6 +7,8 @@ namespace gallery {
 const std::vector<PageEntry>& Pages() {
     static const std::vector<PageEntry> pages{
         {"radar", "价值雷达", MakeValueRadarPage},
+        {"points", "涨幅-涨停系数", MakePointsPage},
+        {"stars", "能量星空图", MakeStarsPage},
     };
     return pages;
 }

@@ -11,5 +11,7 @@ const PageEntry& FindPage(const std::string& name);  ///< An Error when there is
 
 // The factories, each in the page's own file.
 std::unique_ptr<Page> MakeValueRadarPage(const std::filesystem::path& dataDir);
+std::unique_ptr<Page> MakePointsPage(const std::filesystem::path& dataDir);
+std::unique_ptr<Page> MakeStarsPage(const std::filesystem::path& dataDir);
 
 }  // namespace gallery

@@ -3,24 +3,20 @@
 #include <algorithm>
 
 #include "error.h"
+#include "ranks.h"
 
 namespace gallery {
 
 namespace {
 
-char MarketByte(const CsvTable& table, std::size_t nRow, std::size_t nColumn) {
-    const std::string& market = table.Field(nRow, nColumn);
-    if (market == "SH") return 'H';
-    if (market == "SZ") return 'Z';
-    table.Refuse(nRow, nColumn, "neither SH nor SZ: " + market);
-}
+bool HasTraded(const Stock& stock) { return stock.change && stock.price && stock.high && stock.low; }
 
-const std::string& StockCode(const CsvTable& table, std::size_t nRow, std::size_t nColumn) {
-    const std::string& code = table.Field(nRow, nColumn);
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    if (code.size() != 6 || !std::ranges::all_of(code, isDigit))
-        table.Refuse(nRow, nColumn, "not six digits: " + code);
-    return code;
+/// Place of the close in the day's range, percent.
+double PlaceOfClose(const Stock& stock) {
+    const double dRange = *stock.high - *stock.low;
+    if (dRange > 0) return std::clamp((*stock.price - *stock.low) / dRange, 0.0, 1.0) * 100;
+    if (*stock.change == 0) return 50;
+    return *stock.change > 0 ? 100 : 0;
 }
 
 }  // namespace
@@ -28,16 +24,19 @@ const std::string& StockCode(const CsvTable& table, std::size_t nRow, std::size_
 std::vector<Stock> ReadStocks(const std::filesystem::path& file) { return StocksOf(CsvTable::Read(file)); }
 
 std::vector<Stock> StocksOf(const CsvTable& table) {
-    const std::size_t nCode = table.Column("code"), nName = table.Column("name"),
-                      nMarket = table.Column("market"), nSectorId = table.Column("sector_id"),
-                      nSector = table.Column("sector"), nCap = table.Column("market_cap_yuan"),
-                      nGrowth = table.Column("revenue_growth_pct"), nPs = table.Column("ps");
+    const ListingColumns listing(table);
+    const std::size_t nSectorId = table.Column("sector_id"), nSector = table.Column("sector"),
+                      nCap = table.Column("market_cap_yuan"), nGrowth = table.Column("revenue_growth_pct"),
+                      nPs = table.Column("ps"), nChange = table.Column("change_pct"),
+                      nPrice = table.Column("price"), nHigh = table.Column("high"),
+                      nLow = table.Column("low"), nTurnover = table.Column("turnover_rate_pct");
     std::vector<Stock> stocks;
     stocks.reserve(table.RowCount());
     for (std::size_t n = 0; n < table.RowCount(); ++n)
-        stocks.push_back({MarketByte(table, n, nMarket), StockCode(table, n, nCode), table.Gbk(n, nName),
-                          table.Integer(n, nSectorId), table.Gbk(n, nSector), table.Number(n, nCap),
-                          table.Number(n, nGrowth), table.Number(n, nPs)});
+        stocks.push_back({listing.Read(table, n), table.Integer(n, nSectorId), table.Gbk(n, nSector),
+                          table.Number(n, nCap), table.Number(n, nGrowth), table.Number(n, nPs),
+                          table.Number(n, nChange), table.Number(n, nPrice), table.Number(n, nHigh),
+                          table.Number(n, nLow), table.Number(n, nTurnover)});
     return stocks;
 }
 
@@ -46,6 +45,16 @@ int SectorId(const std::vector<Stock>& stocks, const std::string& sector) {
         std::ranges::find_if(stocks, [&](const Stock& s) { return s.sectorId && s.sector == sector; });
     if (it == stocks.end()) throw Error("no stock of the data is in the sector to be marked");
     return *it->sectorId;
+}
+
+std::vector<std::optional<double>> LimitUpCoefficients(const std::vector<Stock>& stocks) {
+    std::vector<std::optional<double>> turnover;
+    for (const Stock& stock : stocks)
+        turnover.push_back(HasTraded(stock) ? stock.turnoverRate : std::nullopt);
+    std::vector<std::optional<double>> coefficients = PercentileRanks(turnover);
+    for (std::size_t n = 0; n < stocks.size(); ++n)
+        if (coefficients[n]) coefficients[n] = (*coefficients[n] + PlaceOfClose(stocks[n])) / 2;
+    return coefficients;
 }
 
 }  // namespace gallery

@@ -4,14 +4,6 @@
 
 #include "foundation/text_copy.h"
 
-namespace {
-void InvalidateCrossHair(CWnd& wnd, const ScatterLayout& layout, CPoint point) {
-    CRgn rgn;
-    GetIntersectLineRgnByPoint(layout, point, rgn);
-    wnd.InvalidateRgn(&rgn);
-}
-}  // namespace
-
 void GetIntersectLineRgnByPoint(const ScatterLayout& layout, CPoint point, CRgn& rgn) {
     const CPoint pt = ClampToPlot(layout, point);
     const CRect& rc = layout.m_rcShaft;
@@ -24,11 +16,10 @@ void GetIntersectLineRgnByPoint(const ScatterLayout& layout, CPoint point, CRgn&
     rgn.CreateRectRgnIndirect(&rc);
 }
 
-void MoveCrossHair(CWnd& wnd, ScatterState& state, CPoint point) {
-    state.m_ptLastCross = state.m_ptCross;
-    state.m_ptCross = point;
-    InvalidateCrossHair(wnd, state, state.m_ptLastCross);
-    InvalidateCrossHair(wnd, state, state.m_ptCross);
+void InvalidateCrossHair(CWnd& wnd, const ScatterLayout& layout, CPoint point) {
+    CRgn rgn;
+    GetIntersectLineRgnByPoint(layout, point, rgn);
+    wnd.InvalidateRgn(&rgn);
 }
 
 void TrackMouseLeave(CWnd& wnd) {
@@ -40,7 +31,7 @@ void TrackMouseLeave(CWnd& wnd) {
     ::TrackMouseEvent(&track);
 }
 
-void ShowStockInfo(CWnd& wnd, ScatterState& state, const ScatterStyle& style, const char* pszText) {
+void SetStockInfo(CWnd& wnd, ScatterState& state, const ScatterStyle& style, const char* pszText) {
     if (std::strcmp(pszText, state.m_szStockInfo) == 0) return;
     CopyText(state.m_szStockInfo, pszText);
     const CRect rcText = InfoTextRect(state, style);

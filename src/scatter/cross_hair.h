@@ -7,11 +7,11 @@
 /// rectangle.
 void GetIntersectLineRgnByPoint(const ScatterLayout& layout, CPoint point, CRgn& rgn);
 
-/// The cross-hair goes to that point: repaints its old and its new place.
-void MoveCrossHair(CWnd& wnd, ScatterState& state, CPoint point);
+/// Repaints the place of a cross-hair.
+void InvalidateCrossHair(CWnd& wnd, const ScatterLayout& layout, CPoint point);
 
 /// Asks for the message that tells when the mouse has left the window.
 void TrackMouseLeave(CWnd& wnd);
 
 /// Keeps at most 499 bytes of the text and repaints its line, unless it is there already.
-void ShowStockInfo(CWnd& wnd, ScatterState& state, const ScatterStyle& style, const char* pszText);
+void SetStockInfo(CWnd& wnd, ScatterState& state, const ScatterStyle& style, const char* pszText);

@@ -1,95 +1,26 @@
 #include "point_radar_ctrl.h"
 
-#include "../foundation/control_window.h"
-
-BEGIN_MESSAGE_MAP(CPointRadarCtrl, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_SIZE()
-END_MESSAGE_MAP()
+#include "scatter/core/scatter_layout.h"
+#include "scatter_paint.h"
+#include "window_names.h"
 
 namespace {
-constexpr ControlNames k_names{"__myPointRadarCtrl__", "__PointRadarCtrl__"};
+constexpr COLORREF k_clrAxisTitles = RGB(192, 192, 192);
+constexpr double k_dLeastX = 0, k_dMostX = 100;   // limit-up coefficient
+constexpr double k_dLeastY = -10, k_dMostY = 10;  // percent
+}  // namespace
+
+CPointRadarCtrl::CPointRadarCtrl()
+    : CBlockRadarCtrl(k_pointRadarStyle, k_pointRadarNames, "涨幅-涨停系数",
+                      "股票代码:%-6.11s  名称:%-8.32s 涨幅:%-6.2lf 涨停系数:%-8.2lf", RGB(157, 188, 252)) {
+    m_dMinX = m_dFullMinX = k_dLeastX, m_dMaxX = m_dFullMaxX = k_dMostX;
+    m_dMinY = m_dFullMinY = k_dLeastY, m_dMaxY = m_dFullMaxY = k_dMostY;
 }
-
-CPointRadarCtrl::CPointRadarCtrl() { SetFullRange(); }
-
-int CPointRadarCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
-    return CreateControlWindow(*this, k_names, pParent, rect, nID);
-}
-
-BOOL CPointRadarCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
 BOOL CPointRadarCtrl::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE) ShowFullRange();
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE) OnDisplayAll();
     return CWnd::PreTranslateMessage(pMsg);
 }
-
-void CPointRadarCtrl::OnPaint() {
-    PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
-}
-
-BOOL CPointRadarCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void CPointRadarCtrl::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
-    MarkStale();
-    Invalidate();
-}
-
-void CPointRadarCtrl::SetFullRange() {
-    m_dMinX = 0.0, m_dMaxX = 100.0;
-    m_dMinY = -10.0, m_dMaxY = 10.0;
-}
-
-void CPointRadarCtrl::ShowFullRange() {
-    SetFullRange();
-    MarkStale();
-    Invalidate();
-}
-
-void CPointRadarCtrl::MarkStale() { m_bPointsDirty = m_bLayerStale = true; }
-
-int CPointRadarCtrl::Init() {
-    ClearData();
-    return TRUE;
-}
-
-int CPointRadarCtrl::Play() {
-    MarkStale();
-    Invalidate();
-    return TRUE;
-}
-
-void CPointRadarCtrl::ClearData() {
-    ClearPoints();
-    m_bLayerStale = true;
-    m_bUpdateTimeSet = false;
-    Invalidate();
-}
-
-int CPointRadarCtrl::SetData(tagPointRadarItemData data) {
-    if (!StorePoint(data)) return FALSE;
-    MarkStale();
-    return TRUE;
-}
-
-void CPointRadarCtrl::ActiveBlockByInfo(int id, const char* text) {
-    ActivateBlock(id, text);
-    MarkStale();
-    Invalidate();
-}
-
-void CPointRadarCtrl::SetGirdVisble(bool bShow) { StoreAndRepaint(*this, m_bGridVisible, bShow); }
-void CPointRadarCtrl::SetCoordinateShaftFontSize(int nHeight) {
-    StoreAndRepaint(*this, m_nShaftFontSize, nHeight);
-}
-void CPointRadarCtrl::SetGateBkColor(COLORREF clr) { StoreAndRepaint(*this, m_clrGateBack, clr); }
-void CPointRadarCtrl::SetCoordinateShaftLineColor(COLORREF clr) {
-    StoreAndRepaint(*this, m_clrShaftLine, clr);
-}
-void CPointRadarCtrl::SetFontColor(COLORREF clr) { StoreAndRepaint(*this, m_clrFont, clr); }
-void CPointRadarCtrl::SetBorderColor(COLORREF clr) { StoreAndRepaint(*this, m_clrBorder, clr); }
 
 void CPointRadarCtrl::SetSouthGate(double dX, double dY) {
     m_dSouthGateX = dX;
@@ -101,7 +32,25 @@ void CPointRadarCtrl::SetWestGate(double dX, double dY) {
     StoreAndRepaint(*this, m_dWestGateY, dY);
 }
 
-void CPointRadarCtrl::SetUpdateTime(CTime& time) {
-    m_timeUpdate = time;
-    StoreAndRepaint(*this, m_bUpdateTimeSet, true);
+void CPointRadarCtrl::RemoveData() {
+    CBlockRadarCtrl::RemoveData();
+    m_bUpdateTimeSet = false;
+}
+
+ShaftTitles CPointRadarCtrl::AxisTitles() const { return {"涨停系数", "涨幅(%)", k_clrAxisTitles}; }
+
+/// Everything of the plot rectangle above and right of the line between the two corners.
+void CPointRadarCtrl::DrawGate(CDC* pDC) {
+    if (!IsFinitePair(m_dWestGateX, m_dWestGateY) || !IsFinitePair(m_dSouthGateX, m_dSouthGateY)) return;
+    const CRect rcPlot = PlotRect(*this);
+    const CPoint ptWest(GetScreenXPos(m_dWestGateX), GetScreenYPos(m_dWestGateY)),
+        ptSouth(GetScreenXPos(m_dSouthGateX), GetScreenYPos(m_dSouthGateY));
+    const POINT corners[] = {
+        ptWest, ptSouth, {rcPlot.right, ptSouth.y}, {rcPlot.right, rcPlot.top}, {ptWest.x, rcPlot.top}};
+    CRgn rgnGate, rgnPlot;
+    if (!rgnGate.CreatePolygonRgn(corners, static_cast<int>(std::size(corners)), ALTERNATE) ||
+        !rgnPlot.CreateRectRgnIndirect(&rcPlot) || rgnGate.CombineRgn(&rgnGate, &rgnPlot, RGN_AND) == ERROR)
+        return;
+    CBrush brush(m_clrGateBack);
+    pDC->FillRgn(&rgnGate, &brush);
 }

@@ -1,62 +1,43 @@
 #include "star_chart_ctrl.h"
 
+#include "foundation/toolkit.h"
+#include "scatter_paint.h"
+#include "scatter_point.h"
 #include "window_names.h"
 
 namespace {
 constexpr UINT k_nStarKindMessage = WM_USER + 2;
+constexpr float k_fBigMoney = 10000;  // from above here in units of 10^4 and more
+
+CString InfoText(const tagmyStarData& star, const CString& strLabel, const char* pszMoney) {
+    CString strInfo;
+    strInfo.Format("股票代码:%-6.11s  名称:%-8.32s %s:%-8.2lf 净买入资金量:%s", star.szCode, star.szName,
+                   static_cast<const char*>(strLabel), static_cast<double>(star.fEnergy), pszMoney);
+    return strInfo;
 }
 
-BEGIN_MESSAGE_MAP(CPointStartCtrl, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_SIZE()
+CString MoneyText(float fMoney) {
+    char szMoney[32] = "";
+    if (fMoney > k_fBigMoney) {
+        FormatBigNumber(szMoney, sizeof szMoney - 1, fMoney);
+        return szMoney;
+    }
+    return FormatFixed(fMoney, 2).c_str();
+}
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CPointStartCtrl, CScatterCtrl)
 ON_MESSAGE(k_nStarKindMessage, OnStarKind)
 END_MESSAGE_MAP()
 
-int CPointStartCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
-    return CreateControlWindow(*this, k_rosePointNames, pParent, rect, nID);
-}
-
-BOOL CPointStartCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_rosePointNames, cs); }
-
-void CPointStartCtrl::OnPaint() {
-    PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
-}
-
-BOOL CPointStartCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void CPointStartCtrl::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
-    m_bPointsDirty = m_bLayerStale = true;
-    Invalidate();
-}
+CPointStartCtrl::CPointStartCtrl()
+    : CScatterCtrl(k_starChartStyle, k_rosePointNames, "尾盘雷达-能量星空图") {}
 
 LRESULT CPointStartCtrl::OnStarKind(WPARAM wKind, LPARAM) {
     m_nStarKind = static_cast<int>(wKind);
     if (m_nStarKind == 12 || m_nStarKind == 14) m_strValueLabel = "强庄能量";
     Invalidate();
     return 0;
-}
-
-void CPointStartCtrl::MarkStale() { m_bPointsDirty = m_bRangeDirty = m_bLayerStale = true; }
-
-int CPointStartCtrl::Init() {
-    ClearData();
-    return TRUE;
-}
-
-int CPointStartCtrl::Play() {
-    MarkStale();
-    Invalidate();
-    return TRUE;
-}
-
-void CPointStartCtrl::ClearData() {
-    m_arrData.RemoveAll();
-    m_records.clear();
-    m_index.Clear();
-    m_bLayerStale = true;
-    Invalidate();
 }
 
 int CPointStartCtrl::SetData(tagmyStarData data) {
@@ -72,21 +53,42 @@ int CPointStartCtrl::SetData(tagmyStarData data) {
         CMyItem item{data.fEnergy, data.fNetBuy, &m_records.emplace_back(data)};
         m_index.Add(data.cMarket, data.szCode, static_cast<int>(m_arrData.Add(item)));
     }
-    MarkStale();
+    MarkDataChanged();
     return TRUE;
 }
 
-void CPointStartCtrl::SetCoordinateShaftFontSize(int nHeight) {
-    StoreAndRepaint(*this, m_nShaftFontSize, nHeight);
+void CPointStartCtrl::RemoveData() {
+    m_arrShown.RemoveAll();
+    m_arrData.RemoveAll();
+    m_records.clear();
+    m_index.Clear();
 }
-void CPointStartCtrl::SetCoordinateShaftLineColor(COLORREF clr) {
-    StoreAndRepaint(*this, m_clrShaftLine, clr);
-}
-void CPointStartCtrl::SetFontColor(COLORREF clr) { StoreAndRepaint(*this, m_clrFont, clr); }
-void CPointStartCtrl::SetGirdVisble(bool bShow) { StoreAndRepaint(*this, m_bGridVisible, bShow); }
-void CPointStartCtrl::SetBorderColor(COLORREF clr) { StoreAndRepaint(*this, m_clrBorder, clr); }
 
-void CPointStartCtrl::SetUpdateTime(CTime& time) {
-    m_timeUpdate = time;
-    StoreAndRepaint(*this, m_bUpdateTimeSet, true);
+void CPointStartCtrl::IncludeData(PairExtent& extent) const {
+    for (const CMyItem& item : m_arrData) extent.Include(item.fX, item.fY);
 }
+
+void CPointStartCtrl::RebuildShown() {
+    m_arrShown.RemoveAll();
+    for (CMyItem& item : m_arrData)
+        if (IsPointInCoordinateShaft(item.fX, item.fY)) m_arrShown.Add(item);
+}
+
+int CPointStartCtrl::ShownCount() const { return static_cast<int>(m_arrShown.GetSize()); }
+
+ScatterPoint CPointStartCtrl::ShownPoint(int nShown) const {
+    const CMyItem& item = m_arrShown[nShown];
+    return {item.fX, item.fY, SlotOfSign(item.pData->fSignValue)};
+}
+
+CString CPointStartCtrl::StockInfo(int nShown) const {
+    if (nShown >= 0) {
+        const tagmyStarData& star = *m_arrShown[nShown].pData;
+        return InfoText(star, m_strValueLabel, MoneyText(star.fNetBuy));
+    }
+    // Every star chart keeps the label that was current when the mouse was first on no star.
+    static const CString s_strNone = InfoText({}, m_strValueLabel, "0.00");
+    return s_strNone;
+}
+
+ShaftTitles CPointStartCtrl::AxisTitles() const { return {m_strValueLabel, "净买入资金", m_clrFont}; }

@@ -1,82 +1,39 @@
-// The value radar's life, data and settings.
+// What the value radar does otherwise than the other scatter charts.
 #include <tavlon/value_radar.h>
 
+#include "scatter/core/scatter_layout.h"
+#include "scatter_paint.h"
 #include "window_names.h"
 
-BEGIN_MESSAGE_MAP(CRoePointCtrl, CWnd)
-ON_WM_ERASEBKGND()
-ON_WM_PAINT()
-ON_WM_SIZE()
-ON_WM_MOUSEMOVE()
-END_MESSAGE_MAP()
-
-CRoePointCtrl::CRoePointCtrl() : m_strTitle("价值雷达") {}
+CRoePointCtrl::CRoePointCtrl()
+    : CBlockRadarCtrl(k_valueRadarStyle, k_rosePointNames, "价值雷达",
+                      "股票代码:%-6.11s  名称:%-8.32s 市销率:%-6.2lf 增长率:%-8.2lf", RGB(66, 61, 6)),
+      m_dGateX(m_dFullMaxX),
+      m_dGateY(m_dFullMinY) {}
 
 CRoePointCtrl::~CRoePointCtrl() = default;
 
-int CRoePointCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
-    return CreateControlWindow(*this, k_rosePointNames, pParent, rect, nID);
-}
-
-BOOL CRoePointCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_rosePointNames, cs); }
-
-int CRoePointCtrl::Init() {
-    ClearData();
-    return TRUE;
-}
-
-int CRoePointCtrl::Play() {
-    m_bPointsDirty = true;
-    CaclPointsInfo();
-    m_bRangeDirty = true;
-    CaclCoordinateShaftPosInfo();
-    Invalidate();
-    return TRUE;
-}
-
-int CRoePointCtrl::SetData(tagPointRadarItemData item) {
-    if (!StorePoint(item)) return FALSE;
-    m_bPointsDirty = m_bRangeDirty = m_bLayerStale = true;
-    return TRUE;
-}
-
-void CRoePointCtrl::ClearData() {
-    ClearPoints();
-    m_bLayerStale = true;
-    Invalidate();
-}
-
-void CRoePointCtrl::ActiveBlockByInfo(int nId, const char* pszName) {
-    ActivateBlock(nId, pszName);
-    m_bLayerStale = m_bPointsDirty = true;
-    Invalidate();
-}
-
-void CRoePointCtrl::SetBorderColor(COLORREF clr) { StoreAndRepaint(*this, m_clrBorder, clr); }
-void CRoePointCtrl::SetCoordinateShaftFontSize(int nHeight) {
-    StoreAndRepaint(*this, m_nShaftFontSize, nHeight);
-}
-void CRoePointCtrl::SetCoordinateShaftLineColor(COLORREF clr) { StoreAndRepaint(*this, m_clrShaftLine, clr); }
-void CRoePointCtrl::SetFontColor(COLORREF clr) { StoreAndRepaint(*this, m_clrFont, clr); }
-void CRoePointCtrl::SetGateBkColor(COLORREF clr) { StoreAndRepaint(*this, m_clrGateBack, clr); }
-void CRoePointCtrl::SetGirdVisble(bool bVisible) { StoreAndRepaint(*this, m_bGridVisible, bVisible); }
-
 void CRoePointCtrl::SetGate(double dX, double dY) {
     m_dGateX = dX;
-    m_dGateY = dY;
-    Invalidate();
+    StoreAndRepaint(*this, m_dGateY, dY);
 }
 
 void CRoePointCtrl::SetTitle(CString& strTitle) { m_strTitle = strTitle; }
 
-void CRoePointCtrl::SetUpdateTime(CTime& time) {
-    m_timeUpdate = time;
-    m_bUpdateTimeSet = true;
-    Invalidate();
+void CRoePointCtrl::CaclCoordinateShaftMaxMinXY() {
+    if (!m_bRangeDirty) return;
+    m_dGateY = m_dFullMinY;
+    CBlockRadarCtrl::CaclCoordinateShaftMaxMinXY();
+    m_dGateX = m_dFullMaxX;
 }
 
-void CRoePointCtrl::SetDisplayBigPoint(bool bBig) {
-    m_bBigPoint = bBig;
-    m_bLayerStale = true;
-    Invalidate();
+ShaftTitles CRoePointCtrl::AxisTitles() const { return {"季度主营收入同比增长率", "市销率", m_clrFont}; }
+
+void CRoePointCtrl::DrawGate(CDC* pDC) {
+    if (!IsFinitePair(m_dGateX, m_dGateY)) return;
+    CRect rcGate(GetScreenXPos(m_dGateX), GetScreenYPos(m_dGateY), GetScreenXPos(m_dFullMaxX),
+                 GetScreenYPos(m_dFullMinY));
+    rcGate.NormalizeRect();
+    const CRect rcPlot = PlotRect(*this);
+    if (rcGate.IntersectRect(&rcGate, &rcPlot)) pDC->FillSolidRect(&rcGate, m_clrGateBack);
 }

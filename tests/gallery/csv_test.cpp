@@ -1,31 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "error_of.h"
 #include "gallery/core/csv.h"
-#include "gallery/core/error.h"
-#include "gallery/core/stocks.h"
 
 using namespace gallery;
-
-namespace {
-
-/// What the error says that the call ends in; "no error" when it does not.
-template <class Call>
-std::string ErrorOf(Call call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "no error";
-}
-
-constexpr char kHeader[] = "code,name,market,sector_id,sector,market_cap_yuan,revenue_growth_pct,ps\n";
-
-std::vector<Stock> Stocks(const std::string& rows) {
-    return StocksOf(CsvTable::Parse(kHeader + rows, "s.csv"));
-}
-
-}  // namespace
 
 TEST(CsvTable, ReadsFields) {
     const CsvTable table = CsvTable::Parse(
@@ -73,41 +51,4 @@ TEST(CsvTable, TextMustBeUtf8) {
 TEST(CsvTable, MissingFileIsNamed) {
     EXPECT_EQ("no_such_file.csv: cannot be read, or is empty",
               ErrorOf([] { CsvTable::Read("no_such_file.csv"); }));
-}
-
-TEST(Stocks, ReadsARow) {
-    const std::vector<Stock> stocks =
-        Stocks("000002,\xE4\xB8\x87  \xE7\xA7\x91,SZ,20,x,5e9,51.8,\n600000,b,SH,,,,,1.5\n");
-    ASSERT_EQ(2u, stocks.size());
-    EXPECT_EQ('Z', stocks[0].cMarket);
-    EXPECT_EQ("万  科", stocks[0].name);  // narrow literals are code page 936 here
-    EXPECT_EQ(20, stocks[0].sectorId);
-    EXPECT_EQ(51.8, stocks[0].revenueGrowth);
-    EXPECT_EQ(std::nullopt, stocks[0].priceToSales);
-    EXPECT_EQ('H', stocks[1].cMarket);
-    EXPECT_EQ(std::nullopt, stocks[1].sectorId);
-    EXPECT_EQ(std::nullopt, stocks[1].marketCap);
-}
-
-TEST(Stocks, MalformedRowsAreRefused) {
-    struct Case {
-        const char *pszName, *pszRow, *pszWant;
-    };
-    for (const Case& c : {Case{"code too short", "00001,a,SZ,1,s,1,1,1",
-                               "s.csv: line 2, column 1 (code): not six digits: 00001"},
-                          Case{"code with a letter", "00000a,a,SZ,1,s,1,1,1",
-                               "s.csv: line 2, column 1 (code): not six digits: 00000a"},
-                          Case{"unknown market", "000001,a,BJ,1,s,1,1,1",
-                               "s.csv: line 2, column 3 (market): neither SH nor SZ: BJ"},
-                          Case{"sector id with a fraction", "000001,a,SZ,1.5,s,1,1,1",
-                               "s.csv: line 2, column 4 (sector_id): not a whole number: 1.5"}}) {
-        SCOPED_TRACE(c.pszName);
-        EXPECT_EQ(c.pszWant, ErrorOf([&] { Stocks(c.pszRow); }));
-    }
-}
-
-TEST(Stocks, SectorIdIsLookedUpByName) {
-    const std::vector<Stock> stocks = Stocks("000001,a,SZ,,s,1,1,1\n000002,a,SZ,7,s,1,1,1\n");
-    EXPECT_EQ(7, SectorId(stocks, "s"));
-    EXPECT_NE("no error", ErrorOf([&] { SectorId(stocks, "t"); }));
 }

@@ -1,7 +1,12 @@
 // Pictures of texts as a chart should show them, for comparison with what it does show.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "radar_window.h"
+
+constexpr UINT k_nStripFormat = DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
+constexpr UINT k_nAxisTitleFormat = DT_RIGHT | DT_SINGLELINE | DT_END_ELLIPSIS;
 
 struct TextLook {
     int nHeight = 12;
@@ -55,3 +60,32 @@ private:
     CBitmap m_bitmap;
     CBitmap* m_pOld;
 };
+
+inline const TextLook k_numbers{.clr = RGB(192, 192, 0), .pszFace = "楷体"};
+
+/// Nine numbers under the x axis, from the left.
+template <class Texts>
+void PutBottomNumbers(TextBoard& board, const CRect& rcShaft, const Texts& texts) {
+    const int nMargin = rcShaft.Width() / 10, nWidth = rcShaft.Width() - 2 * nMargin, nCell = nWidth / 8;
+    const int nTop = rcShaft.bottom + 3, nBottom = nTop + board.LineHeight(k_numbers);
+    for (int i = 0; i < 9; ++i) {
+        const int nLeft = rcShaft.left + nMargin + i * nWidth / 8 - nCell / 2;
+        board.Put(&texts[i][0], CRect(nLeft, nTop, nLeft + nCell - 3, nBottom),
+                  DT_CENTER | DT_SINGLELINE | DT_END_ELLIPSIS, k_numbers);
+    }
+}
+
+/// Nine numbers beside the y axis, from the bottom.
+template <class Texts>
+void PutLeftNumbers(TextBoard& board, const CRect& rcShaft, const Texts& texts) {
+    const int nMargin = rcShaft.Height() / 10, nHeight = rcShaft.Height() - 2 * nMargin;
+    for (int i = 0; i < 9; ++i)
+        board.PutLeftOf(rcShaft.left - 6, rcShaft.top + nMargin + (8 - i) * nHeight / 8 - 7, &texts[i][0],
+                        k_numbers);
+}
+
+/// Nothing but texts in the rectangle: the same pixels as on the board.
+inline void ExpectTexts(const Shot& shot, TextBoard& board, const CRect& rc) {
+    const CPoint pt = shot.FirstDifference(board.Seen(), rc);
+    EXPECT_EQ(CPoint(-1, -1), pt) << "at " << pt.x << "," << pt.y;
+}

@@ -1,4 +1,4 @@
-// A value radar in a window of its own, and what can be seen of it.
+// A scatter chart in a window of its own, and what can be seen of it.
 #pragma once
 
 #include <tavlon/tavlon.h>
@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
+#include <type_traits>
 #include <vector>
 
 #include "support/print.h"
@@ -19,6 +20,7 @@ struct Shot {
         const std::uint32_t xRGB = pixels.at(static_cast<std::size_t>(y) * cx + x);
         return RGB(xRGB >> 16 & 255, xRGB >> 8 & 255, xRGB & 255);
     }
+    COLORREF At(CPoint pt) const { return At(pt.x, pt.y); }
     /// The first pixel of the rectangle that differs from the other picture, (-1,-1) for none.
     CPoint FirstDifference(const Shot& other, const CRect& rc) const {
         for (int y = rc.top; y < rc.bottom; ++y)
@@ -57,31 +59,81 @@ inline tagPointRadarItemData Point(const char* pszCode, double dX, double dY, in
     return item;
 }
 
-/// A visible host window that a value radar fills. Nothing is painted until Paint() or Take().
-class RadarWindow {
+/// The colour of the disc around a point: r, g, w, y; '-' for none. Looks beside the middle, where the
+/// cross-hair may be.
+inline char DiscAt(const Shot& shot, CPoint pt) {
+    const COLORREF clr = shot.At(pt.x - 2, pt.y - 2);
+    const int r = GetRValue(clr), g = GetGValue(clr), b = GetBValue(clr);
+    if (r > 130 && g > 130 && b > 130) return 'w';
+    if (r > 150 && g > 110 && b < 100) return 'y';
+    if (r > 150 && g < 60 && b < 60) return 'r';
+    if (g > 110 && r < 100) return 'g';
+    return '-';
+}
+
+/// A star that is accepted, in the colour that fSign gives it.
+inline tagmyStarData Star(const char* pszCode, float fX, float fY, float fSign) {
+    tagmyStarData star{};
+    star.cMarket = 1;
+    std::strncpy(star.szCode, pszCode, sizeof star.szCode - 1);
+    std::strncpy(star.szName, "浦发银行", sizeof star.szName - 1);
+    star.dwCheckB = 1;
+    star.fEnergy = fX, star.fNetBuy = fY, star.fSignValue = fSign;
+    return star;
+}
+
+/// A visible host window that a scatter chart fills: CRoePointCtrl or a wrapper of one of the three. Nothing
+/// is painted until Paint() or Take().
+template <class Chart>
+class ChartWindow {
 public:
-    explicit RadarWindow(int cx = 800, int cy = 600) {
+    using Record = std::conditional_t<std::is_same_v<Chart, CProxy_PointStartCtrl>, tagmyStarData,
+                                      tagPointRadarItemData>;
+
+    explicit ChartWindow(int cx = 800, int cy = 600) {
         m_host.CreateEx(0, AfxRegisterWndClass(0), "host", WS_POPUP, 0, 0, 1000, 800, nullptr, nullptr);
         m_host.ShowWindow(SW_SHOWNOACTIVATE);  // an active window waits long for the desktop when it goes
-        m_bCreated = radar.Create(&m_host, CRect(0, 0, cx, cy), 1) != FALSE;
+        m_bCreated = chart.Create(&m_host, CRect(0, 0, cx, cy), 1) != FALSE;
+        m_hWnd = ::GetDlgItem(m_host.GetSafeHwnd(), 1);
     }
 
-    CRoePointCtrl radar;
+    Chart chart;
 
     bool IsCreated() const { return m_bCreated; }
-    void Resize(int cx, int cy) { radar.MoveWindow(0, 0, cx, cy); }
-    void Move(int x, int y) { radar.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
-    void Feed(std::initializer_list<tagPointRadarItemData> items) {
-        radar.Init();
-        for (const tagPointRadarItemData& item : items) radar.SetData(item);
-        radar.Play();
+    HWND Handle() const { return m_hWnd; }
+    void Resize(int cx, int cy) { ::MoveWindow(m_hWnd, 0, 0, cx, cy, TRUE); }
+
+    LRESULT Send(UINT nMessage, WPARAM wParam = 0, LPARAM lParam = 0) {
+        return ::SendMessage(m_hWnd, nMessage, wParam, lParam);
+    }
+    void Move(int x, int y) { Send(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
+    void Press(CPoint pt) { Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pt.x, pt.y)); }
+    void Drag(CPoint pt) { Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(pt.x, pt.y)); }
+    void Release(CPoint pt) { Send(WM_LBUTTONUP, 0, MAKELPARAM(pt.x, pt.y)); }
+    void Leave() { Send(WM_MOUSELEAVE); }
+    void Command(UINT nID) { Send(WM_COMMAND, nID); }
+
+    /// A record of the chart's own kind; nMark is its block, or the sign that gives a star its colour.
+    static Record MakeRecord(const char* pszCode, double dX, double dY, int nMark = 0) {
+        if constexpr (std::is_same_v<Record, tagmyStarData>)
+            return Star(pszCode, static_cast<float>(dX), static_cast<float>(dY), static_cast<float>(nMark));
+        else
+            return Point(pszCode, dX, dY, nMark);
+    }
+    int Put(const char* pszCode, double dX, double dY, int nMark = 0) {
+        return chart.SetData(MakeRecord(pszCode, dX, dY, nMark));
+    }
+    void Feed(std::initializer_list<Record> records) {
+        chart.Init();
+        for (const Record& record : records) chart.SetData(record);
+        chart.Play();
     }
 
-    void Paint() { radar.UpdateWindow(); }  ///< What is invalid, nothing else.
+    void Paint() { ::UpdateWindow(m_hWnd); }  ///< What is invalid, nothing else.
     Shot Seen() {
         CRect rc;
-        radar.GetClientRect(&rc);
-        CClientDC dc(&radar);
+        ::GetClientRect(m_hWnd, &rc);
+        CClientDC dc(CWnd::FromHandle(m_hWnd));
         return ShotOf(dc, rc.Width(), rc.Height());
     }
     Shot Take() {
@@ -89,16 +141,35 @@ public:
         return Seen();
     }
     Shot TakeWhole() {
-        radar.Invalidate();
+        ::InvalidateRect(m_hWnd, nullptr, TRUE);
         return Take();
     }
     /// What waits to be repainted.
     void Invalid(CRgn& rgn) {
         rgn.CreateRectRgn(0, 0, 0, 0);
-        radar.GetUpdateRgn(&rgn);
+        ::GetUpdateRgn(m_hWnd, rgn, FALSE);
+    }
+    bool IsInvalid() const { return ::GetUpdateRect(m_hWnd, nullptr, FALSE) != FALSE; }
+    /// Whether just these rectangles wait.
+    bool IsJustInvalid(std::initializer_list<CRect> rects) {
+        CRgn rgnWant, rgn;
+        rgnWant.CreateRectRgn(0, 0, 0, 0);
+        for (const CRect& rc : rects) {
+            CRgn rgnPart;
+            rgnPart.CreateRectRgnIndirect(&rc);
+            rgnWant.CombineRgn(&rgnWant, &rgnPart, RGN_OR);
+        }
+        Invalid(rgn);
+        return rgn.EqualRgn(&rgnWant) != FALSE;
     }
 
 private:
     CWnd m_host;
+    HWND m_hWnd = nullptr;
     bool m_bCreated = false;
+};
+
+struct RadarWindow : ChartWindow<CRoePointCtrl> {
+    using ChartWindow::ChartWindow;
+    CRoePointCtrl& radar = chart;
 };

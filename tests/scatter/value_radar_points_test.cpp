@@ -22,18 +22,6 @@ CPoint PixelOf(double dX, double dY) {
 
 /// Two points that give that range, out of the way of the others.
 const tagPointRadarItemData k_low = Point("low", 0, -10), k_high = Point("high", 80, 10);
-
-/// The colour of the disc around a point: r, g, w, y; '-' for none. Looks beside the middle, where the
-/// cross-hair may be.
-char DiscAt(const Shot& shot, CPoint pt) {
-    const COLORREF clr = shot.At(pt.x - 2, pt.y - 2);
-    const int r = GetRValue(clr), g = GetGValue(clr), b = GetBValue(clr);
-    if (r > 130 && g > 130 && b > 130) return 'w';
-    if (r > 150 && g > 110 && b < 100) return 'y';
-    if (r > 150 && g < 60 && b < 60) return 'r';
-    if (g > 110 && r < 100) return 'g';
-    return '-';
-}
 }  // namespace
 
 TEST(ValueRadarPoints, ColourFollowsTheSign) {
@@ -90,16 +78,6 @@ TEST(ValueRadarPoints, KeyIsMarketAndCode) {
     EXPECT_EQ('-', DiscAt(shot, PixelOf(20, 4))) << "replaced";
     EXPECT_EQ('r', DiscAt(shot, PixelOf(40, 4)));
     EXPECT_EQ('r', DiscAt(shot, PixelOf(30, 4))) << "another market is another stock";
-}
-
-TEST(ValueRadarPoints, ThreeThousandAreHeld) {
-    CRoePointCtrl radar;
-    for (int i = 0; i < 3000; ++i) ASSERT_TRUE(radar.SetData(Point(std::to_string(i).c_str(), i, i)));
-    EXPECT_FALSE(radar.SetData(Point("new", 1, 1)));
-    EXPECT_FALSE(radar.SetData(Point("0", 1, 1))) << "updates are refused as well";
-    EXPECT_TRUE(radar.Init());
-    EXPECT_TRUE(radar.SetData(Point("new", 1, 1)));
-    EXPECT_TRUE(radar.SetData(Point("new", 2, 1)));
 }
 
 TEST(ValueRadarPoints, NotFiniteIsKeptUnseen) {

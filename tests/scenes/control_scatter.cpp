@@ -89,6 +89,57 @@ void MoveMouse(CRoePointCtrl& radar, Dice& dice, const CRect& place) {
     radar.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y));
 }
 
+void FeedPointRadar(CProxy_PointRadarCtrl& radar, Dice& dice) {
+    radar.Init();
+    for (int i = dice.Between(0, 120); i > 0; --i) radar.SetData(AnyStock(dice, -5, 105, -11, 11));
+    if (Changes(dice)) ActivateBlock(radar, dice);
+    Style(radar, dice);
+    if (Changes(dice)) radar.SetGateBkColor(dice.Colour());
+    const double south = Number(dice, 0, 100), west = Number(dice, 0, 100);
+    if (Changes(dice)) radar.SetSouthGate(south, -3), radar.SetWestGate(west, 5);
+    radar.Play();
+}
+
+void FeedStarChart(CProxy_PointStartCtrl& chart, Dice& dice) {
+    chart.Init();
+    for (int i = dice.Between(0, 120); i > 0; --i) chart.SetData(AnyStar(dice));
+    Style(chart, dice);
+    Name(chart, dice);
+    chart.Play();
+}
+
+void SendMouse(HWND window, Dice& dice, UINT message) {
+    const int x = dice.Between(0, 310), y = dice.Between(40, 230);
+    SendMessage(window, message, 0, MAKELPARAM(x, y));
+}
+
+/// Zooms, drags, hovers and menu commands; at the end the mouse may be anywhere, the button down or up.
+void WorkOn(HWND window, Dice& dice) {
+    UpdateWindow(window);
+    for (int i = dice.Between(3, 12); i > 0; --i) {
+        const UINT command = static_cast<UINT>(dice.Of({100, 100, 102, 103, 104, 105}));
+        SendMessage(window, WM_COMMAND, command, 0);
+        SendMouse(window, dice, WM_LBUTTONDOWN);
+        for (int moves = dice.Between(0, 3); moves > 0; --moves) SendMouse(window, dice, WM_MOUSEMOVE);
+        if (dice.OneIn(3)) UpdateWindow(window);
+        if (dice.OneIn(8)) SendMessage(window, WM_MOUSELEAVE, 0, 0);
+        if (i > 1 || Changes(dice)) SendMouse(window, dice, WM_LBUTTONUP);
+        if (dice.OneIn(3)) UpdateWindow(window);
+    }
+    for (int moves = dice.Between(0, 9); moves > 0; --moves) SendMouse(window, dice, WM_MOUSEMOVE);
+}
+
+/// A chart that was worked on after it was fed.
+template <class Chart, class Feed>
+void TakeWorkedOn(Stage& stage, Feed feed) {
+    ControlHost host;
+    Chart chart;
+    chart.Create(&host, AnyPlace(stage), ControlHost::kId);
+    feed(chart, stage.dice);
+    WorkOn(host.Control(), stage.dice);
+    host.Take(stage);
+}
+
 }  // namespace
 
 void ValueRadar(Stage& stage) {
@@ -116,28 +167,17 @@ void ValueRadarOddSizes(Stage& stage) {
 }
 
 void PointRadar(Stage& stage) {
-    TakeControl<CProxy_PointRadarCtrl>(stage, [&](CProxy_PointRadarCtrl& radar) {
-        Dice& dice = stage.dice;
-        radar.Init();
-        for (int i = dice.Between(0, 120); i > 0; --i) radar.SetData(AnyStock(dice, -5, 105, -11, 11));
-        if (Changes(dice)) ActivateBlock(radar, dice);
-        Style(radar, dice);
-        if (Changes(dice)) radar.SetGateBkColor(dice.Colour());
-        const double south = Number(dice, 0, 100), west = Number(dice, 0, 100);
-        if (Changes(dice)) radar.SetSouthGate(south, -3), radar.SetWestGate(west, 5);
-        radar.Play();
-    });
+    TakeControl<CProxy_PointRadarCtrl>(
+        stage, [&](CProxy_PointRadarCtrl& radar) { FeedPointRadar(radar, stage.dice); });
 }
 
 void StarChart(Stage& stage) {
-    TakeControl<CProxy_PointStartCtrl>(stage, [&](CProxy_PointStartCtrl& chart) {
-        Dice& dice = stage.dice;
-        chart.Init();
-        for (int i = dice.Between(0, 120); i > 0; --i) chart.SetData(AnyStar(dice));
-        Style(chart, dice);
-        Name(chart, dice);
-        chart.Play();
-    });
+    TakeControl<CProxy_PointStartCtrl>(
+        stage, [&](CProxy_PointStartCtrl& chart) { FeedStarChart(chart, stage.dice); });
 }
+
+void ValueRadarWorkedOn(Stage& stage) { TakeWorkedOn<CRoePointCtrl>(stage, FeedValueRadar); }
+void PointRadarWorkedOn(Stage& stage) { TakeWorkedOn<CProxy_PointRadarCtrl>(stage, FeedPointRadar); }
+void StarChartWorkedOn(Stage& stage) { TakeWorkedOn<CProxy_PointStartCtrl>(stage, FeedStarChart); }
 
 }  // namespace scenes::controls

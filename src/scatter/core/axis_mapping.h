@@ -8,6 +8,8 @@ struct AxisMapping {
     int nOrigin;       ///< Pixel of range.dMin.
     int nLength;       ///< Pixels from range.dMin to range.dMax; negative where values grow upwards.
 
+    bool operator==(const AxisMapping&) const = default;
+
     /// Truncated toward zero; far values end at the limits of int. An empty range shows everything in the
     /// middle.
     int ToPixel(double dValue) const;

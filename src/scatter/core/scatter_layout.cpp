@@ -5,12 +5,12 @@
 namespace {
 constexpr int k_nLeftMargin = 50;    // y labels
 constexpr int k_nBottomMargin = 30;  // x labels
-constexpr int k_nHitReach = 3;
 }  // namespace
 
 bool LayoutScatter(const CRect& rcClient, const ScatterStyle& style, ScatterLayout& layout) {
     layout.m_rcClient = layout.m_rcTitle = layout.m_rcInfo = layout.m_rcShaft = rcClient;
-    if (rcClient.Height() <= style.nRefusedHeight) return false;
+    layout.m_bLaidOut = rcClient.Height() > style.nRefusedHeight;
+    if (!layout.m_bLaidOut) return false;
     layout.m_rcTitle.bottom = layout.m_rcTitle.top + style.nTitleHeight;
     layout.m_rcInfo.top += style.nTitleHeight;
     layout.m_rcInfo.bottom = layout.m_rcInfo.top + style.nInfoHeight;
@@ -33,6 +33,7 @@ int ShaftYLong(const ScatterLayout& layout) {
 }
 
 CRect PlotRect(const ScatterLayout& layout) {
+    if (!layout.m_bLaidOut) return CRect(0, 0, 0, 0);
     const CPoint ptOrigin = layout.m_ptOrigin;
     return CRect(ptOrigin.x, ptOrigin.y - ShaftYLong(layout), ptOrigin.x + ShaftXLong(layout), ptOrigin.y);
 }
@@ -68,8 +69,7 @@ CRect BlockLineRect(const ScatterLayout& layout) {
 }
 
 CPoint ClampToPlot(const ScatterLayout& layout, CPoint point) {
-    CRect rcPlot = PlotRect(layout);
-    rcPlot.NormalizeRect();
+    const CRect rcPlot = PlotRect(layout);
     return CPoint(std::clamp(point.x, rcPlot.left, rcPlot.right),
                   std::clamp(point.y, rcPlot.top, rcPlot.bottom));
 }

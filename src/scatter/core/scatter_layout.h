@@ -8,6 +8,7 @@
 
 constexpr int k_nGridLines = 9;      ///< Grid lines in each direction.
 constexpr int k_nAxisDivisions = 8;  ///< Parts between the labels of an axis.
+constexpr int k_nHitReach = 3;       ///< How far from a point the mouse can be, in pixels.
 
 /// Lays out a client area. False when it is too low: then every rectangle is the client rectangle.
 bool LayoutScatter(const CRect& rcClient, const ScatterStyle& style, ScatterLayout& layout);
@@ -15,7 +16,8 @@ bool LayoutScatter(const CRect& rcClient, const ScatterStyle& style, ScatterLayo
 int ShaftXLong(const ScatterLayout& layout);  ///< Length of the x axis in pixels.
 int ShaftYLong(const ScatterLayout& layout);
 
-/// Values map into this rectangle, which leaves about a tenth of the axis rectangle free at each side.
+/// Values map into this rectangle, which leaves about a tenth of the axis rectangle free at each side. Never
+/// reversed; empty while nothing is laid out.
 CRect PlotRect(const ScatterLayout& layout);
 
 AxisMapping MapX(const ScatterState& state);  ///< The shown x range onto the plot rectangle, left to right.

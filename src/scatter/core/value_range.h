@@ -5,6 +5,8 @@ struct ValueRange {
     double dMin;
     double dMax;
 
+    bool operator==(const ValueRange&) const = default;
+
     /// Both ends are inside; NaN never is.
     bool Contains(double dValue) const { return dMin <= dValue && dValue <= dMax; }
 };

@@ -9,18 +9,37 @@ struct ScatterLayout {
     CRect m_rcClient{0, 0, 0, 0};  ///< Client rectangle.
     CRect m_rcInfo{0, 0, 0, 0};    ///< Info strip under the title.
     CRect m_rcTitle{0, 0, 0, 0};   ///< Title strip.
+    bool m_bLaidOut = false;       ///< The client area was high enough; else there is no plot rectangle.
 };
 
-/// What every scatter chart keeps, whatever its records; a chart inherits it privately.
+/// What the left mouse button does.
+enum ScatterMouseMode { MOUSE_ZOOM = 0, MOUSE_DRAG = 1 };
+
+/// What every scatter chart keeps, whatever its records; CScatterCtrl inherits it.
 struct ScatterState : ScatterLayout {
     // Values at the ends of the axes.
     double m_dMinX = 0.0;
     double m_dMaxX = 27.0;
     double m_dMinY = 0.76;
     double m_dMaxY = 12.97;
+    // Full range: what "show all" returns to; dragging stays inside it.
+    double m_dFullMaxX = 27.0;
+    double m_dFullMinX = 0.0;
+    double m_dFullMaxY = 12.97;
+    double m_dFullMinY = 0.76;
     bool m_bPointsDirty = false;  ///< The shown list must be rebuilt.
+    bool m_bRangeDirty = false;   ///< The full range must be computed from the data.
 
-    bool m_bMouseDown = false;   ///< Left button held: no cross-hair is drawn.
+    int m_nMouseMode = MOUSE_ZOOM;  ///< A ScatterMouseMode.
+    bool m_bMouseDown = false;      ///< Left button held: no cross-hair is drawn.
+    CPoint m_ptStart{0, 0};         ///< Where it was pressed.
+    // Shown range when it was pressed.
+    double m_dDragSpanX = 0.0;
+    double m_dDragSpanY = 0.0;
+    double m_dDragMinX = 0.0;
+    double m_dDragMinY = 0.0;
+    bool m_bBandShown = false;   ///< A rubber band lies over the window's picture, by exclusive or,
+    CRect m_rcBand{0, 0, 0, 0};  ///< around this rectangle.
     CPoint m_ptLastCross{0, 0};  ///< Previous cross-hair point, as the mouse gave it.
     CPoint m_ptCross{0, 0};      ///< Current cross-hair point.
 
@@ -28,10 +47,12 @@ struct ScatterState : ScatterLayout {
     CTime m_timeUpdate = CTime::GetCurrentTime();  ///< Shown when m_bUpdateTimeSet.
     COLORREF m_clrBorder = RGB(182, 0, 0);
     COLORREF m_clrBack = RGB(0, 0, 0);
-    COLORREF m_clrShaftLine = RGB(182, 0, 0);  ///< Axis lines and the line under the info strip.
+    COLORREF m_clrShaftLine = RGB(182, 0, 0);    ///< Axis lines and the line under the info strip.
+    COLORREF m_clrSelection = RGB(0, 255, 255);  ///< Rubber band.
     COLORREF m_clrCrossLine = RGB(150, 150, 150);
     COLORREF m_clrGrid = RGB(61, 61, 61);
-    int m_nShaftFontSize = 12;  ///< Height of the axis numbers.
+    COLORREF m_clrCursor = RGB(192, 192, 0);  ///< Both mouse cursors.
+    int m_nShaftFontSize = 12;                ///< Height of the axis numbers.
 
     CBitmap m_bmpPoint[4];            ///< Point sprites: red, green, white, yellow.
     CDC m_dcPoint[4];                 ///< Memory contexts that hold them.

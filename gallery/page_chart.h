@@ -1,0 +1,33 @@
+/// A page with one chart, which fills it above the notes.
+#pragma once
+
+#include <tavlon/tavlon.h>
+
+#include "page.h"
+
+namespace gallery {
+
+template <class Chart>
+class ChartPage : public Page {
+protected:
+    virtual void Feed(Chart& chart) = 0;  ///< Gives the new chart its data.
+
+    /// The chart's window; nothing before it is made.
+    CWnd* ChartWindow() { return GetDlgItem(kChartId); }
+
+private:
+    static constexpr UINT kChartId = 100;
+
+    BOOL CreateControls() override {
+        if (!m_chart.Create(this, ContentRect(), kChartId)) return FALSE;
+        Feed(m_chart);
+        return TRUE;
+    }
+    void PlaceControls(const CRect& rcContent) override {
+        if (CWnd* const pChart = ChartWindow()) pChart->MoveWindow(&rcContent);
+    }
+
+    Chart m_chart;
+};
+
+}  // namespace gallery
