@@ -21,10 +21,12 @@ public:
     void Attach(
         HWND hTop);  ///< Listens to the windows that are there now; call again when there are new ones.
 
-    bool IsOpen() const { return m_hMenu != nullptr; }
+    /// A menu whose owner is destroyed ends without a word.
+    bool IsOpen() const { return ::IsMenu(m_hMenu); }
     int EntryCount() const { return IsOpen() ? ::GetMenuItemCount(m_hMenu) : 0; }
     std::optional<UINT> EntryId(const std::string& gbkText) const;  ///< Of the entry with that text.
     bool IsMarked(UINT nId) const { return IsOpen() && m_marked == nId; }
+    bool IsGreyed(UINT nId) const { return (::GetMenuState(m_hMenu, nId, MF_BYCOMMAND) & MF_GRAYED) != 0; }
 
 private:
     static BOOL CALLBACK AttachOne(HWND hWnd, LPARAM lParam);

@@ -20,6 +20,7 @@ SelectionWords Words() {
 std::vector<Place> Places(const std::vector<Stock>& stocks) {
     const std::vector<std::optional<double>> coefficients = LimitUpCoefficients(stocks);
     std::vector<Place> places;
+    places.reserve(stocks.size());
     for (std::size_t n = 0; n < stocks.size(); ++n)
         places.push_back({coefficients[n], stocks[n].change, stocks[n].marketCap});
     return places;

@@ -31,6 +31,7 @@ SelectionWords Words() {
 
 std::vector<Place> Places(const std::vector<Flow>& flows) {
     std::vector<Place> places;
+    places.reserve(flows.size());
     for (const Flow& flow : flows)
         places.push_back(
             {flow.price && flow.change && flow.amount.value_or(0) > 0 ? EnergyOf(flow) : std::nullopt,
@@ -43,7 +44,7 @@ tagmyStarData RecordOf(const Flow& flow, const Place& place) {
     star.fEnergy = static_cast<float>(place.x.value());
     star.fNetBuy = static_cast<float>(place.y.value());
     star.fSignValue = static_cast<float>(flow.change.value());
-    // The control only asks that these three are sound.
+    // The control only asks that these three are sound: yuan, ten thousands of yuan, yuan.
     star.fCheckA = static_cast<float>(flow.price.value());
     star.dwCheckB = static_cast<unsigned int>(std::ceil(flow.amount.value() / kTenThousand));
     star.fCheckC = static_cast<float>(flow.amount.value());

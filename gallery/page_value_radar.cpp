@@ -19,6 +19,7 @@ SelectionWords Words() {
 
 std::vector<Place> Places(const std::vector<Stock>& stocks) {
     std::vector<Place> places;
+    places.reserve(stocks.size());
     for (const Stock& stock : stocks)
         places.push_back({stock.revenueGrowth, stock.priceToSales, stock.marketCap});
     return places;

@@ -45,8 +45,7 @@ bool Player::Run(const Step& step) {
             MoveMouse(OnScreen(step));
             return true;
         case Action::Press:
-            PressLeft(), m_bLeftHeld = true;
-            return true;
+            return PressHere();
         case Action::Release:
             ReleaseLeft(), m_bLeftHeld = false;
             return true;
@@ -75,15 +74,28 @@ CPoint Player::OnScreen(const Step& step) const {
     return pt;
 }
 
-/// Two clicks on one spot must not become a double click: the second waits.
+/// Two presses on one spot must not become a double click: the second waits.
+bool Player::MayPress(CPoint ptScreen) {
+    const bool bNear = std::abs(ptScreen.x - m_ptClick.x) <= ::GetSystemMetrics(SM_CXDOUBLECLK) &&
+                       std::abs(ptScreen.y - m_ptClick.y) <= ::GetSystemMetrics(SM_CYDOUBLECLK);
+    if (m_bClicked && bNear && ::GetTickCount() - m_dwClick <= ::GetDoubleClickTime()) return false;
+    m_bClicked = true, m_ptClick = ptScreen, m_dwClick = ::GetTickCount();
+    return true;
+}
+
+bool Player::PressHere() {
+    CPoint ptMouse;
+    ::GetCursorPos(&ptMouse);
+    if (!MayPress(ptMouse)) return false;
+    PressLeft(), m_bLeftHeld = true;
+    return true;
+}
+
 bool Player::PressAt(const Step& step, int nClicks) {
     const CPoint pt = OnScreen(step);
-    const bool bNear = std::abs(pt.x - m_ptClick.x) <= ::GetSystemMetrics(SM_CXDOUBLECLK) &&
-                       std::abs(pt.y - m_ptClick.y) <= ::GetSystemMetrics(SM_CYDOUBLECLK);
-    if (m_bClicked && bNear && ::GetTickCount() - m_dwClick <= ::GetDoubleClickTime()) return false;
+    if (!MayPress(pt)) return false;
     MoveMouse(pt);
     for (int n = 0; n < nClicks; ++n) ClickLeft();
-    m_bClicked = true, m_ptClick = pt, m_dwClick = ::GetTickCount();
     return true;
 }
 
@@ -92,6 +104,7 @@ bool Player::ChooseEntry(const std::string& gbkText) {
     if (!m_menus.IsOpen()) throw Error("no menu is open");
     const std::optional<UINT> nId = m_menus.EntryId(gbkText);
     if (!nId) throw Error("the open menu has no such entry");
+    if (m_menus.IsGreyed(*nId)) throw Error("the entry is greyed");
     const bool bMarked = m_menus.IsMarked(*nId);
     if (!bMarked && m_nDownKeys++ > 2 * m_menus.EntryCount()) throw Error("the entry cannot be reached");
     TypeKey(bMarked ? VK_RETURN : VK_DOWN);

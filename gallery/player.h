@@ -21,6 +21,8 @@ public:
 private:
     void Tick();
     bool Run(const Step& step);  ///< True when the step is done, false when it wants another tick.
+    bool MayPress(CPoint ptScreen);
+    bool PressHere();
     bool PressAt(const Step& step, int nClicks);
     bool ChooseEntry(const std::string& gbkText);
     void Finish();
@@ -33,7 +35,7 @@ private:
     MenuWatch m_menus;
     int m_nDownKeys = 0;  ///< Spent on the menu step that runs.
     bool m_bLeftHeld = false;
-    bool m_bClicked = false;  ///< There was a click, at m_ptClick and m_dwClick.
+    bool m_bClicked = false;  ///< There was a press, at m_ptClick and m_dwClick.
     CPoint m_ptClick;
     DWORD m_dwClick = 0;
     std::string

@@ -49,6 +49,7 @@ int SectorId(const std::vector<Stock>& stocks, const std::string& sector) {
 
 std::vector<std::optional<double>> LimitUpCoefficients(const std::vector<Stock>& stocks) {
     std::vector<std::optional<double>> turnover;
+    turnover.reserve(stocks.size());
     for (const Stock& stock : stocks)
         turnover.push_back(HasTraded(stock) ? stock.turnoverRate : std::nullopt);
     std::vector<std::optional<double>> coefficients = PercentileRanks(turnover);

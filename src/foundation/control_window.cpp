@@ -34,7 +34,7 @@ bool TakeFocusOnClick(CWnd& wnd, const MSG& msg) {
     const bool bButton = msg.message >= WM_LBUTTONDOWN && msg.message <= WM_RBUTTONDBLCLK;
     if (!bButton || ::GetFocus() == hWnd) return true;
     ::SetFocus(hWnd);
-    return CWnd::FromHandlePermanent(hWnd) == &wnd;
+    return IsStillWindow(&wnd, hWnd);
 }
 }  // namespace
 

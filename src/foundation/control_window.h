@@ -20,6 +20,12 @@ BOOL CreateControlWindow(CWnd& wnd, const ControlNames& names, CWnd* pParent, co
 /// For PreCreateWindow: registers the control's own class, unless it exists, and makes the window take it.
 BOOL UseControlClass(const ControlNames& names, CREATESTRUCT& cs);
 
+/// Whether the object still is what the handle had when a call to the outside began, which may have destroyed
+/// it. `pWnd` itself is not touched.
+inline bool IsStillWindow(const CWnd* pWnd, HWND hWnd) {
+    return hWnd != nullptr && CWnd::FromHandlePermanent(hWnd) == pWnd;
+}
+
 /// PreTranslateMessage of a control that takes the keyboard focus when a mouse button is pressed on it.
 /// `wnd` may be gone when this returns: the caller only passes the result on.
 BOOL PreTranslateTakingFocus(CWnd& wnd, MSG* pMsg);
@@ -35,7 +41,9 @@ void StoreAndRepaint(CWnd& wnd, Value& member, const std::type_identity_t<Value>
 /// which then reaches the window in one transfer.
 template <class Draw>
 void PaintOffScreen(CWnd& wnd, Draw draw) {
+    const HWND hWnd = wnd.GetSafeHwnd();
     CPaintDC dcPaint(&wnd);
+    if (!IsStillWindow(&wnd, hWnd)) return;  // erasing is told to the host, too
     CRect rcClient;
     wnd.GetClientRect(&rcClient);
     CMemDC dcSurface(&dcPaint, &rcClient);

@@ -51,6 +51,6 @@ void CPointRadarCtrl::DrawGate(CDC* pDC) {
     if (!rgnGate.CreatePolygonRgn(corners, static_cast<int>(std::size(corners)), ALTERNATE) ||
         !rgnPlot.CreateRectRgnIndirect(&rcPlot) || rgnGate.CombineRgn(&rgnGate, &rgnPlot, RGN_AND) == ERROR)
         return;
-    CBrush brush(m_clrGateBack);
-    pDC->FillRgn(&rgnGate, &brush);
+    CBrush brush;
+    if (brush.CreateSolidBrush(m_clrGateBack)) pDC->FillRgn(&rgnGate, &brush);
 }

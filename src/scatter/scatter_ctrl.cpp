@@ -41,12 +41,14 @@ BOOL CScatterCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(m_
 
 int CScatterCtrl::OnCreate(LPCREATESTRUCT pCreate) {
     if (CWnd::OnCreate(pCreate) == -1) return -1;
+    m_bMouseDown = m_bBandShown = false;  // an earlier window may have gone while they were set
     OnCreateCursor();
     return 0;
 }
 
 void CScatterCtrl::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
+    m_bBandShown = false;  // the next move draws it into the new plot rectangle
     MarkStale();
     Invalidate();
 }

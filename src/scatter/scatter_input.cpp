@@ -51,6 +51,7 @@ void CScatterCtrl::OnMouseMove(UINT nFlags, CPoint point) {
 }
 
 void CScatterCtrl::DragTo(CPoint point) {
+    if (!m_bLaidOut) return;
     const CPoint pt = ClampToPlot(*this, point);
     const AxisMapping mapX = MapX(*this), mapY = MapY(*this);
     const ValueRange x = DraggedRange(m_dDragMinX, m_dDragSpanX, pt.x - m_ptStart.x, mapX.nLength,
@@ -114,7 +115,7 @@ void CScatterCtrl::OnContextMenu(CWnd* /*pWnd*/, CPoint /*point*/) {
     const HWND hWnd = m_hWnd;
     TrackScatterMenu(*this, m_bBigPoint);
     // Whatever ran while the menu was open may have destroyed the chart.
-    if (CWnd::FromHandlePermanent(hWnd) == this) m_bPointsDirty = true;
+    if (IsStillWindow(this, hWnd)) m_bPointsDirty = true;
 }
 
 void CScatterCtrl::OnInitMenuPopup(CMenu* pPopup, UINT /*nIndex*/, BOOL /*bSysMenu*/) {

@@ -1,6 +1,7 @@
 // The layers of a scatter chart's picture.
 #include <tavlon/scatter_ctrl.h>
 
+#include "foundation/control_window.h"
 #include "foundation/mem_dc.h"
 #include "foundation/toolkit.h"
 #include "points_layer.h"
@@ -12,11 +13,13 @@ BOOL CScatterCtrl::OnEraseBkgnd(CDC* /*pDC*/) { return TRUE; }
 
 void CScatterCtrl::OnPaint() {
     // What is painted anew below the axes concerns the whole window, whatever part of it was asked for.
-    if (m_bLayerStale || m_bRangeDirty) Invalidate();
+    if (m_bLayerStale) Invalidate();
     CRgn rgnUpdate;  // painting validates the window, so this is asked first
     rgnUpdate.CreateRectRgn(0, 0, 0, 0);
     GetUpdateRgn(&rgnUpdate);
+    const HWND hWnd = m_hWnd;
     CPaintDC dc(this);
+    if (!IsStillWindow(this, hWnd)) return;  // erasing is told to the host, too
     ReDraw(&dc, &rgnUpdate);
     PaintSelection(dc, *this);
 }

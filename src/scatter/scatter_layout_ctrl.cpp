@@ -42,6 +42,7 @@ void CScatterCtrl::CaclPointsInfo() {
 }
 
 int CScatterCtrl::FindShownPoint(CPoint point) {
+    if (!m_bLaidOut) return -1;
     const AxisMapping x = MapX(*this), y = MapY(*this);
     HitIndex& hits = *m_pHits;
     if (hits.bStale || hits.x != x || hits.y != y) {

@@ -34,6 +34,8 @@ struct Ranges {
     bool operator==(const Ranges&) const = default;
 };
 
+inline const Ranges k_zoomed{{25, 75}, {-5, 5}};
+
 /// A chart whose plot rectangle is 400 x 400 pixels, so that one pixel is 0.25 in x and 0.05 in y while the
 /// full range is shown. Points of the tests count from the plot rectangle's top left corner.
 template <class Chart>
@@ -57,6 +59,13 @@ public:
     void Zoom(const CRect& rcPlot) {
         SendAt(WM_LBUTTONDOWN, rcPlot.TopLeft());
         SendAt(WM_LBUTTONUP, rcPlot.BottomRight());
+    }
+
+    /// The middle half of both ranges, with the mouse at rest at (200,350).
+    void ShowZoomed() {
+        Zoom({100, 100, 300, 300});
+        MoveTo({200, 350});
+        this->Paint();
     }
 
     /// By the numbers on both axes and the places of the points.
@@ -84,6 +93,8 @@ public:
                     Pixel(shot, x, y) ^= 0x00FFFF;
         return shot;
     }
+    /// Over the background it is seen by its colour.
+    static bool HasBand(const Shot& shot) { return std::ranges::count(shot.pixels, 0x00FFFFu) != 0; }
     /// With a cross-hair.
     Shot WithCross(Shot shot, CPoint ptPlot) const {
         const CRect& rc = m_state.m_rcShaft;

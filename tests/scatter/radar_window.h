@@ -101,6 +101,13 @@ public:
 
     bool IsCreated() const { return m_bCreated; }
     HWND Handle() const { return m_hWnd; }
+    void Recreate() {
+        CRect rc;
+        ::GetClientRect(m_hWnd, &rc);
+        ::DestroyWindow(m_hWnd);
+        chart.Create(&m_host, rc, 1);
+        m_hWnd = ::GetDlgItem(m_host.GetSafeHwnd(), 1);
+    }
     void Resize(int cx, int cy) { ::MoveWindow(m_hWnd, 0, 0, cx, cy, TRUE); }
 
     LRESULT Send(UINT nMessage, WPARAM wParam = 0, LPARAM lParam = 0) {

@@ -1,9 +1,8 @@
-// The value radar's picture: texts, lines, and that repainting a part gives what repainting all gives.
+// The value radar's picture: texts, lines, and the text of the stock under the mouse.
 #include <gtest/gtest.h>
 
 #include <array>
 #include <limits>
-#include <random>
 #include <string>
 
 #include "expected_text.h"
@@ -100,21 +99,6 @@ TEST(ValueRadarPaint, WithoutDataTheFirstRangeShows) {
     for (const int nCentre : {125, 425, 725})
         ExpectTexts(shot, board, CRect(nCentre - 30, 571, nCentre + 30, 598));
     ExpectTexts(shot, board, k_rcYNumbers);
-}
-
-TEST(ValueRadarPaint, Strips) {
-    RadarWindow window;
-    CTime time(2018, 9, 21, 15, 4, 5);
-    CString strTitle("价值");
-    TextBoard fresh(800, 600), full(800, 600);
-    PutStrips(fresh, "价值雷达", "", "", "当前选中版块为:");
-    ExpectTexts(window.Take(), fresh, k_rcStrips);
-    window.radar.SetTitle(strTitle);
-    window.radar.SetUpdateTime(time);
-    window.radar.ActiveBlockByInfo(4, "生物制药");
-    window.radar.ClearData();  // the block's name stays
-    PutStrips(full, "价值", "更新时间:2018-09-21 15:04", "", "当前选中版块为:生物制药");
-    ExpectTexts(window.Take(), full, k_rcStrips);
 }
 
 TEST(ValueRadarPaint, LongTextsAreCut) {
@@ -290,42 +274,4 @@ TEST(ValueRadarHover, InvalidatesTheLeast) {
                    {50, 519, 800, 521},
                    {124, 65, 126, 570},
                    {0, 25, 800, 45}});
-}
-
-TEST(ValueRadarRepaint, PartEqualsWhole) {
-    std::mt19937 random(20180921);
-    const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
-    RadarWindow window(640, 480);
-    const auto feed = [&] {
-        window.radar.Init();
-        for (int i = 0; i < 150; ++i)
-            window.radar.SetData(Point(std::to_string(i).c_str(), upTo(200) - 100, upTo(41) - 10, upTo(4)));
-        window.radar.Play();
-    };
-    feed();
-    for (int nStep = 0; nStep < 150; ++nStep) {
-        SCOPED_TRACE(nStep);
-        switch (upTo(12)) {
-            case 0:
-                feed();
-                break;
-            case 1:
-                window.Resize(41 + upTo(600), 41 + upTo(440));
-                break;
-            case 2:
-                window.radar.ActiveBlockByInfo(upTo(4), "版块");
-                break;
-            case 3:
-                window.radar.SetGate(upTo(100), upTo(20));
-                break;
-            case 4:
-                window.radar.SetGirdVisble(upTo(2) == 0);
-                break;
-            default:
-                window.Move(upTo(640), upTo(480));
-        }
-        const Shot part = window.Take(), whole = window.TakeWhole();
-        const CPoint pt = part.FirstDifference(whole);
-        ASSERT_EQ(CPoint(-1, -1), pt) << "at " << pt.x << "," << pt.y;
-    }
 }

@@ -24,8 +24,10 @@ public:
         const Shot part = m_window.Take(), whole = m_window.TakeWhole();
         ExpectSame(part, whole, nStep, action.pszName);
         if (nStep % k_nAnewEvery != 0) return;
+        m_window.Leave();  // a new size would end a band as well
+        const Shot kept = m_window.TakeWhole();
         DrawAnew();
-        if (!m_bLayerLate) ExpectSame(whole, m_window.Take(), nStep, "drawn anew");
+        if (!m_bLayerLate) ExpectSame(kept, m_window.Take(), nStep, "drawn anew");
         m_bLayerLate = false;
         m_window.Paint();
     }

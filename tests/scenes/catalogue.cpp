@@ -50,10 +50,10 @@ std::string Scene::FileName() const {
 
 std::vector<Scene> AllScenes() {
     std::vector<Scene> all;
-    for (const auto& kinds :
-         {LineKinds(), CurveKinds(), RegionKinds(), BlockKinds(), TextKinds(), ControlKinds(), WindowKinds()})
+    for (const auto& kinds : {LineKinds(), CurveKinds(), RegionKinds(), BlockKinds(), TextKinds(),
+                              ControlKinds(), WindowKinds(), MenuKinds()})
         for (const PictureKind& kind : kinds) Add(all, kind);
-    for (const auto& kinds : {ContextLogs(), TextLogs(), WindowLogs()})
+    for (const auto& kinds : {ContextLogs(), TextLogs(), WindowLogs(), MenuLogs()})
         for (const LogKind& kind : kinds) Add(all, kind);
     std::set<std::string> names;
     for (const Scene& scene : all)

@@ -37,8 +37,10 @@ std::span<const PictureKind> BlockKinds();
 std::span<const PictureKind> TextKinds();
 std::span<const PictureKind> ControlKinds();
 std::span<const PictureKind> WindowKinds();
+std::span<const PictureKind> MenuKinds();
 std::span<const LogKind> ContextLogs();
 std::span<const LogKind> TextLogs();
 std::span<const LogKind> WindowLogs();
+std::span<const LogKind> MenuLogs();
 
 }  // namespace scenes

@@ -54,6 +54,42 @@ TEST(UserMenuModel, StatesChangeAndAreTold) {
     DestroyMenu(hMenu);
 }
 
+TEST(UserMenuModel, AnEntryWithoutTextIsASeparator) {
+    const HMENU hMenu = CreatePopupMenu();
+    EXPECT_TRUE(AppendMenu(hMenu, MF_STRING, 101, nullptr));
+    EXPECT_TRUE(AppendMenu(hMenu, MF_STRING, 102, ""));
+    EXPECT_EQ(MF_SEPARATOR | MF_GRAYED | MF_DISABLED, GetMenuState(hMenu, 0, MF_BYPOSITION));
+    EXPECT_EQ(0u, GetMenuState(hMenu, 1, MF_BYPOSITION));
+    DestroyMenu(hMenu);
+}
+
+TEST(UserMenuModel, RadioMarksOfARange) {
+    struct Case {
+        const char* pszName;
+        UINT nFirst, nLast, nCheck;
+        BOOL bWant;
+        std::vector<UINT> states;
+    };
+    constexpr UINT kBullet = MFT_RADIOCHECK | MF_CHECKED;
+    const Case cases[] = {
+        {"inside the range", 1, 2, 2, TRUE, {MF_CHECKED, 0, kBullet, MF_CHECKED}},
+        {"outside: the range loses its marks", 1, 2, 3, FALSE, {MF_CHECKED, 0, 0, MF_CHECKED}},
+        {"no such entry", 0, 9, 9, FALSE, {0, 0, 0, 0}},
+        {"the wrong way round", 2, 1, 1, FALSE, {MF_CHECKED, MF_CHECKED, MF_CHECKED, MF_CHECKED}},
+    };
+    for (const UINT nBy : {MF_BYPOSITION, MF_BYCOMMAND})
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.pszName);
+            const HMENU hMenu = CreatePopupMenu();
+            for (UINT nId = 0; nId < 4; ++nId) AppendMenu(hMenu, MF_STRING | MF_CHECKED, nId, "entry");
+            EXPECT_EQ(c.bWant, CheckMenuRadioItem(hMenu, c.nFirst, c.nLast, c.nCheck, nBy));
+            std::vector<UINT> states;
+            for (UINT n = 0; n < 4; ++n) states.push_back(GetMenuState(hMenu, n, MF_BYPOSITION));
+            EXPECT_EQ(c.states, states);
+            DestroyMenu(hMenu);
+        }
+}
+
 TEST(UserMenuModel, DestroyingTakesSubmenusAlong) {
     const HMENU hMenu = MakeMenu(), hSub = GetSubMenu(hMenu, 4);
     EXPECT_TRUE(DestroyMenu(hMenu));
@@ -308,6 +344,28 @@ TEST_F(UserMenuTracking, QuitEndsItAndReachesTheOuterLoop) {
     MSG msg{};
     EXPECT_TRUE(PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7u, msg.wParam);
+}
+
+TEST_F(UserMenuTracking, WithoutEntriesItDoesNotOpen) {
+    const HMENU hEmpty = CreatePopupMenu();
+    EXPECT_FALSE(TrackPopupMenu(hEmpty, 0, kLeft, kTop, 0, m_hTop, nullptr));
+    EXPECT_FALSE(EndMenu());
+    EXPECT_EQ(nullptr, GetCapture());
+    DestroyMenu(hEmpty);
+}
+
+/// A menu at the right edge lies to the left of the point it was asked for, its submenu to its left.
+TEST_F(UserMenuTracking, MouseChoosesInASubmenuThatOpenedToTheLeft) {
+    const int nRight = GetSystemMetrics(SM_CXSCREEN);
+    g_steps = {Keys({VK_UP, VK_UP, VK_RIGHT}), [=] { SetCursorPos(nRight - 90, kTop + 3 + 3 * 18 + 9 + 10); },
+               [] {
+                   mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+                   mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+               }};
+    g_nStep = 0;
+    const UINT_PTR nTimer = SetTimer(nullptr, 0, 100, Tick);
+    EXPECT_EQ(201, TrackPopupMenu(m_hMenu, TPM_RETURNCMD, nRight, kTop, 0, m_hTop, nullptr));
+    KillTimer(nullptr, nTimer);
 }
 
 TEST_F(UserMenuTracking, BadArgumentsAreRefused) {

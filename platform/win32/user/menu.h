@@ -9,11 +9,12 @@
 namespace tavlon::win32 {
 
 struct MenuItem {
-    UINT state = 0;  ///< MF_GRAYED, MF_DISABLED, MF_CHECKED, MF_SEPARATOR
+    UINT state = 0;  ///< MF_GRAYED, MF_DISABLED, MF_CHECKED, MF_SEPARATOR, MFT_RADIOCHECK
     UINT_PTR id = 0;
     HMENU submenu = nullptr;
     std::string text;
 
+    bool HasBullet() const { return (state & MFT_RADIOCHECK) != 0; }
     bool IsSeparator() const { return (state & MF_SEPARATOR) != 0; }
     bool IsEnabled() const { return !(state & (MF_GRAYED | MF_DISABLED | MF_SEPARATOR)); }
 };

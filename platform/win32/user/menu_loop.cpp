@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "user/input_queue.h"
 #include "user/menu_track.h"
 #include "user/message_queue.h"
@@ -114,11 +116,14 @@ private:
     MenuTracker& m_tracker;
 };
 
-UINT_PTR Track(HMENU hMenu, UINT flags, POINT at, HWND hOwner) {
+/// The command that was chosen, 0 for none; nothing when the menu did not open.
+std::optional<UINT_PTR> Track(HMENU hMenu, UINT flags, POINT at, HWND hOwner) {
     MenuTracker tracker(hMenu, flags, hOwner);
     const Tracking tracking(tracker);
-    if (tracker.Begin(at)) Run(tracker);
+    const bool opened = tracker.Begin(at);
+    if (opened) Run(tracker);
     tracker.End();
+    if (!opened) return std::nullopt;
     return tracker.Command();
 }
 
@@ -132,9 +137,10 @@ using namespace tavlon::win32;
 
 BOOL TrackPopupMenu(HMENU hMenu, UINT nFlags, int x, int y, int, HWND hWnd, const RECT*) {
     if (!MenuOf(hMenu) || !IsWindow(hWnd) || g_tracker) return FALSE;
-    const UINT_PTR command = Track(hMenu, nFlags, {x, y}, hWnd);
-    if (nFlags & TPM_RETURNCMD) return static_cast<BOOL>(command);
-    if (command) PostMessageA(hWnd, WM_COMMAND, command & 0xffff, 0);
+    const std::optional<UINT_PTR> command = Track(hMenu, nFlags, {x, y}, hWnd);
+    if (!command) return FALSE;
+    if (nFlags & TPM_RETURNCMD) return static_cast<BOOL>(*command);
+    if (*command) PostMessageA(hWnd, WM_COMMAND, *command & 0xffff, 0);
     return TRUE;
 }
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 #include <set>
 
 #include "kernel/handle_table.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr int kMaxNesting = 32;  // menus below one another, the outermost counted
 constexpr std::size_t kMaxItems = 4096;
-constexpr UINT kStateBits = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_SEPARATOR;
+constexpr UINT kStateBits = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_SEPARATOR | MFT_RADIOCHECK;
 
 /// `level` is how many menus are above it at most. It never shrinks: what takes a submenu out destroys it.
 struct NestedMenu : Menu {
@@ -32,10 +33,11 @@ HMENU AddMenu() { return static_cast<HMENU>(Table().Add(std::make_unique<NestedM
 MenuItem MakeItem(UINT flags, UINT_PTR id, LPCSTR text) {
     MenuItem item;
     item.state = flags & kStateBits;
+    if (!text) item.state |= MF_SEPARATOR;
     if (item.IsSeparator()) item.state |= MF_GRAYED | MF_DISABLED;
     item.id = id;
     if (flags & MF_POPUP) item.submenu = reinterpret_cast<HMENU>(id);
-    if (text && !item.IsSeparator()) item.text = text;
+    if (!item.IsSeparator()) item.text = text;
     return item;
 }
 
@@ -87,7 +89,7 @@ FoundItem FindByCommand(HMENU hMenu, UINT id, MenuSet& searched) {
     if (!menu || !searched.insert(menu).second) return {};
     for (std::size_t i = 0; i < menu->items.size(); ++i) {
         const MenuItem& item = menu->items[i];
-        if (!item.submenu && !item.IsSeparator() && item.id == id) return {menu, i};
+        if (!item.submenu && item.id == id) return {menu, i};
         if (const FoundItem found = item.submenu ? FindByCommand(item.submenu, id, searched) : FoundItem{})
             return found;
     }
@@ -109,6 +111,24 @@ DWORD ChangeState(const FoundItem& item, UINT mask, UINT state) {
     const DWORD old = item->state & mask;
     item->state = (item->state & ~mask) | (state & mask);
     return old;
+}
+
+/// Of entries with one id only the first is ever found.
+bool IsFoundAs(HMENU hMenu, UINT id, UINT flags, const MenuItem& item) {
+    const FoundItem found = FindMenuItem(hMenu, id, flags);
+    return found && &found.menu->items[found.index] == &item;
+}
+
+/// The menu that has the lowest id of the range, itself or one of its submenus.
+Menu* MenuWithFirst(HMENU hMenu, UINT first, UINT last) {
+    std::optional<UINT> lowest;
+    for (const MenuSet& menus : LevelsFrom(Table().Get(hMenu)))
+        for (const NestedMenu* menu : menus)
+            for (const MenuItem& item : menu->items) {
+                const auto id = static_cast<UINT>(item.id);
+                if (!item.submenu && id >= first && id <= last) lowest = std::min(id, lowest.value_or(id));
+            }
+    return lowest ? FindMenuItem(hMenu, *lowest, MF_BYCOMMAND).menu : nullptr;
 }
 
 }  // namespace
@@ -209,15 +229,21 @@ BOOL EnableMenuItem(HMENU hMenu, UINT nId, UINT nEnable) {
 }
 
 BOOL CheckMenuRadioItem(HMENU hMenu, UINT nFirst, UINT nLast, UINT nCheck, UINT nFlags) {
-    const FoundItem chosen = FindMenuItem(hMenu, nCheck, nFlags);
-    if (!chosen || nFirst > nLast) return FALSE;
-    for (std::size_t i = 0; i < chosen.menu->items.size(); ++i) {
-        MenuItem& item = chosen.menu->items[i];
-        const UINT_PTR key = (nFlags & MF_BYPOSITION) ? i : item.id;
-        if (key < nFirst || key > nLast || item.submenu || item.IsSeparator()) continue;
-        item.state = i == chosen.index ? item.state | MF_CHECKED : item.state & ~MF_CHECKED;
+    Menu* menu = MenuOf(hMenu);
+    if (menu && !(nFlags & MF_BYPOSITION)) menu = MenuWithFirst(hMenu, nFirst, nLast);
+    if (!menu) return FALSE;
+    bool checked = false;
+    for (std::size_t i = 0; i < menu->items.size(); ++i) {
+        MenuItem& item = menu->items[i];
+        const auto key = static_cast<UINT>((nFlags & MF_BYPOSITION) ? i : item.id);
+        if (key < nFirst || key > nLast || item.IsSeparator()) continue;
+        if (!IsFoundAs(hMenu, key, nFlags, item)) continue;
+        item.state &= ~static_cast<UINT>(MF_CHECKED);
+        if (key != nCheck) continue;
+        item.state |= MF_CHECKED | MFT_RADIOCHECK;
+        checked = true;
     }
-    return TRUE;
+    return checked;
 }
 
 HMENU GetMenu(HWND hWnd) {

@@ -18,9 +18,8 @@ struct MenuPopup {
     MenuLayout layout;
     int selected = -1;
 
-    /// Opens next to the point, moved so that it lies on the screen. `beside` is the width to keep clear of
-    /// when it opens to the left instead.
-    static MenuPopup Open(HMENU hMenu, POINT at, int beside, HWND hOwner);
+    /// Opens at the point, or with its lower right corner at the other one where it would leave the screen.
+    static MenuPopup Open(HMENU hMenu, POINT at, const POINT* other, HWND hOwner);
     void Close();
     bool Contains(POINT screen) const;
     int RowAt(POINT screen) const;

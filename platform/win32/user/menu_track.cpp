@@ -9,6 +9,7 @@ namespace tavlon::win32 {
 namespace {
 
 constexpr WPARAM kIdleInMenu = 2;
+constexpr int kOverlap = 4;  // of a submenu with the level it opens to the right of
 
 char Lower(char character) { return static_cast<char>(std::tolower(static_cast<unsigned char>(character))); }
 
@@ -35,7 +36,7 @@ bool MenuTracker::Begin(POINT at) {
     if (!(m_flags & TPM_NONOTIFY)) Notify(WM_ENTERMENULOOP, TRUE, 0);
     Notify(WM_SETCURSOR, reinterpret_cast<WPARAM>(m_owner), HTCAPTION);
     if (!(m_flags & TPM_NONOTIFY)) Notify(WM_INITMENU, reinterpret_cast<WPARAM>(m_menu), 0);
-    if (!OpenLevel(m_menu, at, 0, 0)) return false;
+    if (!OpenLevel(m_menu, at, nullptr, 0)) return false;
     SetCapture(m_levels.front().window);
     return true;
 }
@@ -72,11 +73,12 @@ void MenuTracker::Notify(UINT message, WPARAM wParam, LPARAM lParam) const {
     if (IsWindow(m_owner)) SendMessageA(m_owner, message, wParam, lParam);
 }
 
-bool MenuTracker::OpenLevel(HMENU hMenu, POINT at, int beside, int position) {
+bool MenuTracker::OpenLevel(HMENU hMenu, POINT at, const POINT* other, int position) {
     if (!(m_flags & TPM_NONOTIFY))
         Notify(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(hMenu), MAKELPARAM(position, 0));
     if (!IsWindow(m_owner) || !IsMenu(hMenu)) return false;
-    MenuPopup popup = MenuPopup::Open(hMenu, at, beside, m_owner);
+    if (m_levels.empty() && MenuOf(hMenu)->items.empty()) return false;
+    MenuPopup popup = MenuPopup::Open(hMenu, at, other, m_owner);
     if (!popup.window) return false;
     m_levels.push_back(popup);
     SetWindowPos(popup.window, HWND_TOPMOST, 0, 0, 0, 0,
@@ -156,11 +158,11 @@ void MenuTracker::OpenSelected() {
     const MenuPopup& popup = Last();
     const MenuItem* item = popup.ItemAt(popup.selected);
     if (!item || !item->submenu || !item->IsEnabled()) return;
-    const auto row = static_cast<std::size_t>(popup.selected);
-    RECT rect{};
-    GetWindowRect(popup.window, &rect);
-    const POINT at{rect.right - 3, rect.top + popup.layout.rows[row].top - 3};
-    OpenLevel(item->submenu, at, rect.right - rect.left - 6, popup.selected);
+    RECT row = popup.layout.rows[static_cast<std::size_t>(popup.selected)];
+    MapWindowPoints(popup.window, nullptr, reinterpret_cast<POINT*>(&row), 2);
+    const POINT at{row.right + kMenuFrame - kOverlap, row.top - kMenuFrame};
+    const POINT other{row.left, row.bottom + kMenuFrame};
+    OpenLevel(item->submenu, at, &other, popup.selected);
 }
 
 void MenuTracker::EnterSubmenu() {

@@ -44,7 +44,7 @@ private:
     const MenuPopup& Last() const { return m_levels.back(); }
     int LevelAt(POINT pt) const;
     void Notify(UINT message, WPARAM wParam, LPARAM lParam) const;
-    bool OpenLevel(HMENU hMenu, POINT at, int beside, int position);
+    bool OpenLevel(HMENU hMenu, POINT at, const POINT* other, int position);
     void CloseTo(std::size_t count);
     void SelectRow(std::size_t level, int row);
     void TellSelected(const MenuPopup& popup) const;

@@ -111,6 +111,9 @@ bool NothingCanArrive() {
 }
 
 void WaitForArrival(HWND filter, UINT first, UINT last) {
+    // Whoever looked last may have taken input from the display: the display does not wake us for it again.
+    MSG msg;
+    if (Take(msg, {filter, first, last}, false)) return;
     PresentDamage();
     TheDisplay().Wait(MillisecondsToNextTimer(filter, first, last));
 }

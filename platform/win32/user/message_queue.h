@@ -16,7 +16,7 @@ void PostAsIs(const MSG& msg);
 void DropMessagesOf(HWND hWnd);
 /// True when no message is there and, without input from outside and timers, none will ever come.
 bool NothingCanArrive();
-/// Sleeps until something may have arrived.
+/// Sleeps until something may have arrived; not at all while a message that passes is there.
 void WaitForArrival(HWND filter = nullptr, UINT first = 0, UINT last = 0);
 
 }  // namespace tavlon::win32

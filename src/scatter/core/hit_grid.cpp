@@ -19,7 +19,8 @@ HitGrid::Cells HitGrid::CellsFor(int nStart, int nEnd) {
 }
 
 std::size_t HitGrid::CellIndex(int nColumn, int nRow) const {
-    return static_cast<std::size_t>(nRow * m_columns.nCount + nColumn);
+    return static_cast<std::size_t>(nRow) * static_cast<std::size_t>(m_columns.nCount) +
+           static_cast<std::size_t>(nColumn);
 }
 
 void HitGrid::Start(const CRect& rcPlot, int nPoints) {

@@ -42,6 +42,13 @@ private:
 };
 
 /// Point radar: limit-up coefficient (x, 0 to 100) against the day's price change in percent (y, -10 to 10).
+///
+/// Range:  fixed; points outside it are kept and not shown. A client area of 50 px height or less is not
+///         painted.
+/// Gate:   what lies above and right of the line between two corners, at first (70, 5) and (87, -2); none
+///         while a corner is not finite.
+/// Mouse:  as CScatterCtrl says, menu and commands as well. Escape shows the full range while the chart has
+///         the keyboard focus, which it takes only from its host.
 class TAVLON_API CProxy_PointRadarCtrl {
 public:
     CProxy_PointRadarCtrl();
@@ -72,8 +79,13 @@ private:
     Owned<CPointRadarCtrl> m_pControl;
 };
 
-/// Star chart: energy (x) against net buying (y) at the day's close. Message WM_USER + 2 with wParam 12 or 14
-/// renames the x axis.
+/// Star chart: energy (x) against net buying (y) at the day's close; each star's disc is red, green or white
+/// by the sign of fSignValue.
+///
+/// Range:  follows the data, as the value radar's. A client area of 25 px height or less is not painted.
+/// Mouse:  as CScatterCtrl says, menu and commands as well.
+/// Label:  message WM_USER + 2 with wParam 12 or 14 renames the x axis from "主力能量" to "强庄能量"; nothing
+///         sets it back.
 class TAVLON_API CProxy_PointStartCtrl {
 public:
     CProxy_PointStartCtrl();

@@ -15,9 +15,10 @@ class PairExtent;
 
 /// What the value radar, the point radar and the star chart have in common: points on two axes, an info line
 /// that names the one under the mouse, zoom to a dragged rectangle, drag to pan, a cross-hair, two cursors
-/// and a context menu. Hosts use the charts that derive from it. Mouse:  in zoom mode a rectangle dragged
-/// with the left button becomes the shown range, unless a division of
-///         the axis would become 0.1 or less (y), 0.01 or less (x). In drag mode the hand moves the shown
+/// and a context menu. Hosts use the charts that derive from it.
+///
+/// Mouse:  in zoom mode a rectangle dragged with the left button becomes the shown range, unless a division
+///         of the axis would become 0.1 or less (y), 0.01 or less (x). In drag mode the hand moves the shown
 ///         range inside the full range. The mouse is not captured; when it leaves the window, the button
 ///         counts as released, without a zoom.
 /// Menu:   commands 103 show all, 100 zoom mode, 102 drag mode, 104 big points, 105 small points; they can be

@@ -11,7 +11,8 @@
 /// Range:  computed from the finite records at the first paint after SetData, or by Play: their extremes, at
 ///         least 5.0 apart. Records that are not finite are kept but neither drawn nor counted.
 /// Gate:   the area right of and below one corner, empty until SetGate and while the corner is not finite.
-///         Each computation of the range empties it again, so call SetGate after Play.
+///         Each computation of the range empties it again, so call SetGate after Play; while the chart has no
+///         window, or one too low to be laid out, the range is computed later, and SetGate has to come later.
 /// Usage:  Init, SetData for each stock, ActiveBlockByInfo, Play, SetGate, SetUpdateTime.
 /// Thread: use from the thread that created the window.
 class TAVLON_API CRoePointCtrl : public CBlockRadarCtrl {
