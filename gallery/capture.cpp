@@ -29,8 +29,10 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    bool Add(HDC hdcFrom, CPoint ptAt, CSize size) {
-        return ::BitBlt(m_dc, ptAt.x, ptAt.y, size.cx, size.cy, hdcFrom, 0, 0, SRCCOPY) != FALSE;
+    /// Puts the pixels of rcFrom where ptAt is in the canvas.
+    bool Add(CPoint ptAt, HDC hdcFrom, const CRect& rcFrom) {
+        return ::BitBlt(m_dc, ptAt.x, ptAt.y, rcFrom.Width(), rcFrom.Height(), hdcFrom, rcFrom.left,
+                        rcFrom.top, SRCCOPY) != FALSE;
     }
 
     Picture Pixels() {
@@ -59,13 +61,6 @@ private:
     HGDIOBJ m_old = nullptr;
 };
 
-CRect ClientAreaOnScreen(CWnd& wnd) {
-    CRect rc;
-    wnd.GetClientRect(&rc);
-    wnd.ClientToScreen(&rc);
-    return rc;
-}
-
 /// The visible top-level windows of this thread above the given one, the lowest first.
 std::vector<HWND> OwnWindowsAbove(HWND hWnd) {
     std::vector<HWND> above;
@@ -79,27 +74,28 @@ bool AddWindow(Canvas& canvas, HWND hWnd, CPoint ptOrigin) {
     CRect rc;
     ::GetWindowRect(hWnd, &rc);
     const HDC hdc = ::GetWindowDC(hWnd);
-    const bool bAdded = canvas.Add(hdc, rc.TopLeft() - ptOrigin, rc.Size());
+    const bool bAdded = canvas.Add(rc.TopLeft() - ptOrigin, hdc, CRect(0, 0, rc.Width(), rc.Height()));
     ::ReleaseDC(hWnd, hdc);
     return bAdded;
 }
 
-bool AddClientArea(Canvas& canvas, CWnd& wnd, CSize size) {
+bool AddClientArea(Canvas& canvas, CWnd& wnd, const CRect& rcPart) {
     const HDC hdc = ::GetDC(wnd.m_hWnd);  // the window does not clip its children, so they are in it
-    const bool bAdded = canvas.Add(hdc, CPoint(0, 0), size);
+    const bool bAdded = canvas.Add(CPoint(0, 0), hdc, rcPart);
     ::ReleaseDC(wnd.m_hWnd, hdc);
     return bAdded;
 }
 
 }  // namespace
 
-void SaveClientArea(CWnd& wnd, const std::filesystem::path& file) {
+void SaveClientArea(CWnd& wnd, const CRect& rcPart, const std::filesystem::path& file) {
     ::RedrawWindow(wnd.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    const CRect rc = ClientAreaOnScreen(wnd);
-    Canvas canvas(rc.Size());
-    bool bCopied = AddClientArea(canvas, wnd, rc.Size());
+    CRect rcOnScreen = rcPart;
+    wnd.ClientToScreen(&rcOnScreen);
+    Canvas canvas(rcPart.Size());
+    bool bCopied = AddClientArea(canvas, wnd, rcPart);
     for (const HWND hAbove : OwnWindowsAbove(wnd.m_hWnd))
-        bCopied = AddWindow(canvas, hAbove, rc.TopLeft()) && bCopied;
+        bCopied = AddWindow(canvas, hAbove, rcOnScreen.TopLeft()) && bCopied;
     if (!bCopied) throw Error("the window's pixels cannot be copied");
     if (!WritePng(file, canvas.Pixels())) throw Error(file.string() + ": cannot be written");
 }

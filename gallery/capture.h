@@ -7,8 +7,9 @@
 
 namespace gallery {
 
-/// The window's client area with its children and with what this program shows over it (an open menu, a tip),
-/// after all pending painting, as a PNG file. An Error when it cannot be copied or written.
-void SaveClientArea(CWnd& wnd, const std::filesystem::path& file);
+/// Part of the top-level window's client area with its children and with what this program shows over it (an
+/// open menu, a tip), after all pending painting, as a PNG file. An Error when it cannot be copied or
+/// written.
+void SaveClientArea(CWnd& wnd, const CRect& rcPart, const std::filesystem::path& file);
 
 }  // namespace gallery

@@ -38,7 +38,7 @@ void Render(MainWindow& wnd, const Arguments& args) {
         wnd.SetPageSize(args.size.value_or(PageSize()));
         RunPendingMessages();
         const std::filesystem::path file = args.target / (page.name + ".png");
-        SaveClientArea(wnd, file);
+        SaveClientArea(wnd, wnd.PageArea(), file);
         std::printf("%s\n", file.generic_string().c_str());
         std::fflush(stdout);
     }
@@ -50,7 +50,7 @@ void Run(const Arguments& args) {
     if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay();
     if (args.mode != Arguments::Mode::Window) ParkPointer();
     if (args.plainText) SystemParametersInfo(SPI_SETFONTSMOOTHING, FALSE, nullptr, 0);
-    MainWindow wnd(args.data.value_or(FindDataDir()));
+    MainWindow wnd(args.data.value_or(FindDataDir()), Pages());
     wnd.Open(PageSize());
     if (args.mode == Arguments::Mode::Render) return Render(wnd, args);
     wnd.ShowPage(Pages().front());

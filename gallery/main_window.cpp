@@ -4,19 +4,22 @@
 #include <utility>
 
 #include "core/error.h"
-#include "pages.h"
+#include "core/split.h"
+#include "tab_captions.h"
 
 namespace gallery {
 
 namespace {
 constexpr UINT_PTR kTimerId = 1;
 constexpr UINT kTickMs = 10;
+constexpr UINT kTabsId = 2;
+constexpr int kTabsHeight = 24;
 constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
 constexpr char kCaption[] = "Tavlon";
 constexpr char kKeysInCaption[] = "（PageUp、PageDown换页）";
 
 SIZE WindowSizeFor(PageSize size) {
-    RECT rc{0, 0, size.cx, size.cy};
+    RECT rc{0, 0, size.cx, kTabsHeight + size.cy};
     ::AdjustWindowRectEx(&rc, kStyle, FALSE, 0);
     return {rc.right - rc.left, rc.bottom - rc.top};
 }
@@ -29,37 +32,59 @@ ON_WM_DESTROY()
 ON_WM_SETFOCUS()
 ON_WM_TIMER()
 ON_WM_GETMINMAXINFO()
+ON_COMMAND(kTabsId, OnTab)
 END_MESSAGE_MAP()
 
-MainWindow::MainWindow(std::filesystem::path dataDir) : m_dataDir(std::move(dataDir)) {}
+MainWindow::MainWindow(std::filesystem::path dataDir, const std::vector<PageEntry>& pages)
+    : m_pages(pages), m_dataDir(std::move(dataDir)) {}
 
 void MainWindow::Open(PageSize size) {
     const CString strClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
     const SIZE sz = WindowSizeFor(size);
     if (!CreateEx(0, strClass, kCaption, kStyle, 0, 0, sz.cx, sz.cy, nullptr, nullptr))
         throw Error("the main window cannot be made");
+    CreateTabs();
     ShowWindow(SW_SHOW);
     ::SetForegroundWindow(m_hWnd);
     UpdateWindow();
 }
 
+void MainWindow::CreateTabs() {
+    CRect rcRest = ClientArea();
+    if (!m_tabs.Create(this, TakeTop(rcRest, kTabsHeight), kTabsId, TAB_HORZ_BOX))
+        throw Error("the tab strip cannot be made");
+    std::vector<std::string> titles;
+    for (const PageEntry& page : m_pages) titles.push_back(page.title);
+    AddTabs(m_tabs, titles);
+    SetNavigationColours(m_tabs);
+}
+
 void MainWindow::ShowPage(const PageEntry& page) {
     std::unique_ptr<Page> pNew = page.pfnMake(m_dataDir);
     m_pPage.reset();
-    if (!pNew->CreateOn(*this, ClientArea()))
+    if (!pNew->CreateOn(*this, PageArea()))
         throw Error("the windows of page " + page.name + " cannot be made");
     m_pPage = std::move(pNew);
     m_strPage = page.name;
+    m_tabs.SelectTabById(static_cast<int>(PositionOf(page.name)));
     SetWindowText((kCaption + ("：" + page.title) + kKeysInCaption).c_str());
     m_pPage->SetFocus();
 }
 
+std::size_t MainWindow::PositionOf(const std::string& name) const {
+    return static_cast<std::size_t>(std::ranges::find(m_pages, name, &PageEntry::name) - m_pages.begin());
+}
+
 void MainWindow::TurnPages(int nBy) {
-    const auto& pages = Pages();
-    const auto nAll = static_cast<int>(pages.size());
-    const auto it = std::ranges::find(pages, m_strPage, &PageEntry::name);
-    const int nNext = (static_cast<int>(it - pages.begin()) + nBy + nAll) % nAll;
-    ShowPage(pages[static_cast<std::size_t>(nNext)]);
+    const auto nAll = static_cast<int>(m_pages.size());
+    const int nNext = (static_cast<int>(PositionOf(m_strPage)) + nBy + nAll) % nAll;
+    ShowPage(m_pages[static_cast<std::size_t>(nNext)]);
+}
+
+/// A tab was clicked. The strip posted this, so no control is at work while its page goes.
+void MainWindow::OnTab() {
+    const auto nPage = static_cast<std::size_t>(m_tabs.GetActiveId());
+    if (nPage < m_pages.size() && m_pages[nPage].name != m_strPage) ShowPage(m_pages[nPage]);
 }
 
 BOOL MainWindow::PreTranslateMessage(MSG* pMsg) {
@@ -79,7 +104,7 @@ void MainWindow::OnSetFocus(CWnd* pOldWnd) {
 void MainWindow::SetPageSize(PageSize size) {
     const SIZE sz = WindowSizeFor(size);
     SetWindowPos(nullptr, 0, 0, sz.cx, sz.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-    CRect rcOnScreen = ClientArea();
+    CRect rcOnScreen = PageArea();
     ClientToScreen(&rcOnScreen);
     const bool bFits = rcOnScreen.right <= ::GetSystemMetrics(SM_CXSCREEN) &&
                        rcOnScreen.bottom <= ::GetSystemMetrics(SM_CYSCREEN);
@@ -95,6 +120,20 @@ CRect MainWindow::ClientArea() const {
     return rc;
 }
 
+CRect MainWindow::PageArea() const {
+    CRect rc = ClientArea();
+    TakeTop(rc, kTabsHeight);
+    return rc;
+}
+
+CRect MainWindow::TabArea(const PageEntry& page) const {
+    CRect rcRest = ClientArea(), rc = TakeTop(rcRest, kTabsHeight);
+    const int nWidth = rc.Width() / static_cast<int>(m_pages.size());
+    rc.left += static_cast<int>(PositionOf(page.name)) * nWidth;
+    rc.right = rc.left + nWidth;
+    return rc;
+}
+
 void MainWindow::StartTicking(std::function<void()> tick) {
     m_tick = std::move(tick);
     SetTimer(kTimerId, kTickMs);
@@ -107,10 +146,14 @@ void MainWindow::StopTicking() {
 
 void MainWindow::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (m_pPage && nType != SIZE_MINIMIZED) m_pPage->MoveWindow(0, 0, cx, cy);
+    if (nType == SIZE_MINIMIZED) return;
+    CRect rcPage = ClientArea();
+    const CRect rcTabs = TakeTop(rcPage, kTabsHeight);
+    if (CWnd* const pTabs = GetDlgItem(kTabsId)) pTabs->MoveWindow(&rcTabs);
+    if (m_pPage) m_pPage->MoveWindow(&rcPage);
 }
 
-BOOL MainWindow::OnEraseBkgnd(CDC*) { return TRUE; }  // the page covers everything
+BOOL MainWindow::OnEraseBkgnd(CDC*) { return TRUE; }  // strip and page cover everything
 
 void MainWindow::OnTimer(UINT_PTR) {
     if (const std::function<void()> tick = m_tick) tick();  // a copy: the tick may end the ticking

@@ -1,6 +1,8 @@
-/// The gallery's top-level window: one page at a time fills its client area. PageDown and PageUp turn the
-/// pages.
+/// The gallery's top-level window: a strip with a tab for each page and one page at a time below it. The
+/// tabs, PageDown and PageUp turn the pages.
 #pragma once
+
+#include <tavlon/tavlon.h>
 
 #include <functional>
 
@@ -11,13 +13,20 @@ namespace gallery {
 
 class MainWindow : public CWnd {
 public:
-    explicit MainWindow(std::filesystem::path dataDir);
+    /// The pages in the order of their tabs, at least one; they must outlive the window.
+    MainWindow(std::filesystem::path dataDir, const std::vector<PageEntry>& pages);
 
     void Open(PageSize size);  ///< Makes and shows the window; an Error when that fails.
-    void ShowPage(
-        const PageEntry& page);  ///< Replaces the page; the Error of its data or of a window not made.
-    void SetPageSize(
-        PageSize size);  ///< Gives the page that client size; an Error when the screen is too small.
+    /// Replaces the page; the Error of its data or of a window not made. When the user turned the page, the
+    /// error leaves the message loop.
+    void ShowPage(const PageEntry& page);
+    /// Gives the page that client size; an Error when the screen is too small.
+    void SetPageSize(PageSize size);
+
+    /// Where things are, in client pixels. None of them overlap; in a low window they are empty.
+    CRect ClientArea() const;
+    CRect PageArea() const;
+    CRect TabArea(const PageEntry& page) const;  ///< Empty when it is too narrow to be clicked.
 
     /// Calls tick about every ten milliseconds, also while a menu is open.
     void StartTicking(std::function<void()> tick);
@@ -31,13 +40,17 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* pInfo);
+    afx_msg void OnTab();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:
-    CRect ClientArea() const;
+    void CreateTabs();
+    std::size_t PositionOf(const std::string& name) const;
     void TurnPages(int nBy);  ///< Past the last page comes the first.
 
+    const std::vector<PageEntry>& m_pages;
+    CProxy_TabCtrl m_tabs;
     std::filesystem::path m_dataDir;
     std::unique_ptr<Page> m_pPage;
     std::string m_strPage;  ///< Name of the page shown.

@@ -3,16 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "text_lines.h"
+
 namespace gallery {
 
 namespace {
-constexpr int kNoteHeight = 18;  // pixels a line
-constexpr int kNoteMargin = 4;
-constexpr COLORREF kBackground = RGB(0, 0, 0);
-constexpr COLORREF kNoteColour = RGB(192, 192, 192);
-constexpr char kNoteFace[] = "楷体";
-constexpr int kNoteFontHeight = 14;
-
 /// The page's own drawing leaves its children out, so that the controls do not flicker when it repaints.
 constexpr DWORD kPageStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN;
 
@@ -57,7 +52,7 @@ void Page::SetNotes(std::vector<std::string> notes) {
 }
 
 int Page::NotesHeight() const {
-    return m_notes.empty() ? 0 : static_cast<int>(m_notes.size()) * kNoteHeight + 2 * kNoteMargin;
+    return m_notes.empty() ? 0 : static_cast<int>(m_notes.size()) * kLineHeight + 2 * kLineMargin;
 }
 
 CRect Page::ContentRect() const {
@@ -78,22 +73,9 @@ void Page::OnPaint() {
     CPaintDC dc(this);
     CRect rcClient;
     GetClientRect(&rcClient);
-    dc.FillSolidRect(&rcClient, kBackground);
-    CFont font;
-    font.CreateFont(kNoteFontHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET,
-                    OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, kNoteFace);
-    CFont* const pOldFont = dc.SelectObject(&font);
-    dc.SetTextColor(kNoteColour);
-    dc.SetBkMode(TRANSPARENT);
-    CRect rcLine(rcClient.left + kNoteMargin, ContentRect().bottom + kNoteMargin,
-                 rcClient.right - kNoteMargin, 0);
-    for (const std::string& note : m_notes) {
-        rcLine.bottom = rcLine.top + kNoteHeight;
-        dc.DrawText(note.c_str(), static_cast<int>(note.size()), &rcLine,
-                    DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-        rcLine.top = rcLine.bottom;
-    }
-    dc.SelectObject(pOldFont);
+    const CRect rcContent = ContentRect();
+    dc.FillSolidRect(&rcContent, RGB(0, 0, 0));  // what the controls leave free
+    DrawLines(dc, CRect(rcClient.left, rcContent.bottom, rcClient.right, rcClient.bottom), m_notes);
 }
 
 }  // namespace gallery

@@ -1,4 +1,4 @@
-/// A page with one chart, which fills it above the notes.
+/// A page with one chart, which fills it above the notes unless the page puts something beside it.
 #pragma once
 
 #include <tavlon/tavlon.h>
@@ -12,11 +12,9 @@ class ChartPage : public Page {
 protected:
     virtual void Feed(Chart& chart) = 0;  ///< Gives the new chart its data.
 
+    Chart& TheChart() { return m_chart; }
     /// The chart's window; nothing before it is made.
     CWnd* ChartWindow() { return GetDlgItem(kChartId); }
-
-private:
-    static constexpr UINT kChartId = 100;
 
     BOOL CreateControls() override {
         if (!m_chart.Create(this, ContentRect(), kChartId)) return FALSE;
@@ -27,6 +25,8 @@ private:
         if (CWnd* const pChart = ChartWindow()) pChart->MoveWindow(&rcContent);
     }
 
+private:
+    static constexpr UINT kChartId = 100;
     Chart m_chart;
 };
 

@@ -13,5 +13,7 @@ const PageEntry& FindPage(const std::string& name);  ///< An Error when there is
 std::unique_ptr<Page> MakeValueRadarPage(const std::filesystem::path& dataDir);
 std::unique_ptr<Page> MakePointsPage(const std::filesystem::path& dataDir);
 std::unique_ptr<Page> MakeStarsPage(const std::filesystem::path& dataDir);
+std::unique_ptr<Page> MakeWheelPage(const std::filesystem::path& dataDir);
+std::unique_ptr<Page> MakeTabsPage(const std::filesystem::path& dataDir);
 
 }  // namespace gallery

@@ -38,6 +38,8 @@ bool Player::Run(const Step& step) {
         case Action::Page:
             m_wnd.ShowPage(FindPage(step.text));
             return true;
+        case Action::Tab:
+            return PressTab(FindPage(step.text));
         case Action::Size:
             m_wnd.SetPageSize(step.size);
             return true;
@@ -50,9 +52,9 @@ bool Player::Run(const Step& step) {
             ReleaseLeft(), m_bLeftHeld = false;
             return true;
         case Action::Click:
-            return PressAt(step, 1);
+            return PressAt(OnScreen(step), 1);
         case Action::DoubleClick:
-            return PressAt(step, 2);
+            return PressAt(OnScreen(step), 2);
         case Action::RightClick:
             MoveMouse(OnScreen(step)), ClickRight();
             return true;
@@ -62,14 +64,17 @@ bool Player::Run(const Step& step) {
         case Action::Menu:
             return ChooseEntry(step.text);
         case Action::Shot:
-            SaveClientArea(m_wnd, step.text);
+            SaveClientArea(m_wnd, m_wnd.PageArea(), step.text);
+            return true;
+        case Action::Window:
+            SaveClientArea(m_wnd, m_wnd.ClientArea(), step.text);
             return true;
     }
     return true;
 }
 
 CPoint Player::OnScreen(const Step& step) const {
-    CPoint pt(step.x, step.y);
+    CPoint pt = m_wnd.PageArea().TopLeft() + CSize(step.x, step.y);
     m_wnd.ClientToScreen(&pt);
     return pt;
 }
@@ -91,12 +96,18 @@ bool Player::PressHere() {
     return true;
 }
 
-bool Player::PressAt(const Step& step, int nClicks) {
-    const CPoint pt = OnScreen(step);
-    if (!MayPress(pt)) return false;
-    MoveMouse(pt);
+bool Player::PressAt(CPoint ptScreen, int nClicks) {
+    if (!MayPress(ptScreen)) return false;
+    MoveMouse(ptScreen);
     for (int n = 0; n < nClicks; ++n) ClickLeft();
     return true;
+}
+
+bool Player::PressTab(const PageEntry& page) {
+    CRect rc = m_wnd.TabArea(page);
+    if (rc.IsRectEmpty()) throw Error("the window is too small for its tabs");
+    m_wnd.ClientToScreen(&rc);
+    return PressAt(rc.CenterPoint(), 1);
 }
 
 /// One press of the down key a tick until the entry is marked, then Enter.

@@ -23,7 +23,8 @@ private:
     bool Run(const Step& step);  ///< True when the step is done, false when it wants another tick.
     bool MayPress(CPoint ptScreen);
     bool PressHere();
-    bool PressAt(const Step& step, int nClicks);
+    bool PressAt(CPoint ptScreen, int nClicks);
+    bool PressTab(const PageEntry& page);
     bool ChooseEntry(const std::string& gbkText);
     void Finish();
     CPoint OnScreen(const Step& step) const;

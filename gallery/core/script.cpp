@@ -49,7 +49,7 @@ private:
         Action action;
         void (LineParser::*pfnFill)(Step&);
     };
-    static const Command kCommands[11];
+    static const Command kCommands[13];
 
     Step Fill(const Command& command) {
         Step step;
@@ -99,8 +99,9 @@ private:
     const std::vector<std::string>& m_pages;
 };
 
-const LineParser::Command LineParser::kCommands[11] = {
+const LineParser::Command LineParser::kCommands[13] = {
     {"page", Action::Page, &LineParser::FillPage},
+    {"tab", Action::Tab, &LineParser::FillPage},
     {"size", Action::Size, &LineParser::FillSize},
     {"move", Action::Move, &LineParser::FillPoint},
     {"press", Action::Press, &LineParser::FillButton},
@@ -111,6 +112,7 @@ const LineParser::Command LineParser::kCommands[11] = {
     {"key", Action::Key, &LineParser::FillKey},
     {"menu", Action::Menu, &LineParser::FillMenu},
     {"shot", Action::Shot, &LineParser::FillShot},
+    {"window", Action::Window, &LineParser::FillShot},
 };
 
 }  // namespace

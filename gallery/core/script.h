@@ -1,10 +1,12 @@
 /// Scripts: what a person would do with the gallery, one action a line.
 ///
-///     page NAME      size W H       shot FILE.png
+///     page NAME      size W H       shot FILE.png   window FILE.png   tab NAME
 ///     move X Y       click X Y      dblclick X Y    rightclick X Y
 ///     press left     release left   key NAME        menu TEXT
 ///
-/// Coordinates are the page's client pixels. Blank lines and lines that start with # are left out.
+/// Coordinates are the page's client pixels; shot is a picture of the page, window one of the page with the
+/// tabs above it. Tab clicks the tab of the named page, where page shows it without a click. Blank lines and
+/// lines that start with # are left out.
 #pragma once
 
 #include <filesystem>
@@ -16,7 +18,21 @@
 
 namespace gallery {
 
-enum class Action { Page, Size, Move, Press, Release, Click, DoubleClick, RightClick, Key, Menu, Shot };
+enum class Action {
+    Page,
+    Tab,
+    Size,
+    Move,
+    Press,
+    Release,
+    Click,
+    DoubleClick,
+    RightClick,
+    Key,
+    Menu,
+    Shot,
+    Window
+};
 
 struct Step {
     Action action = Action::Move;
@@ -24,7 +40,7 @@ struct Step {
     int x = 0, y = 0;        ///< Move and the clicks.
     PageSize size;           ///< Size.
     unsigned char nKey = 0;  ///< Key: the virtual key code.
-    std::string text;        ///< Page: name. Menu: the entry in code page 936. Shot: file.
+    std::string text;        ///< Page, Tab: name. Menu: the entry in code page 936. Shot, Window: file.
 };
 
 /// The steps in order. The first bad line is an Error that names the script and the line.

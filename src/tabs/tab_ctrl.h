@@ -1,12 +1,16 @@
 #pragma once
 
 #include <tavlon/framework.h>
-#include <tavlon/records.h>
 
-/// Tab strip: keeps the tabs, the active one and the look. The exported contract is CProxy_TabCtrl.
-/// Paints its background only so far; clicks select nothing yet.
-class CMyTabControl : public CWnd {
+#include "my_string.h"
+#include "tab_state.h"
+
+/// Tab strip: equal tabs side by side or below each other, one of which is active. The exported contract is
+/// CProxy_TabCtrl.
+class CMyTabControl : public CWnd, private TabStripState {
 public:
+    using CMyString = ::CMyString;
+
     int Create(CWnd* pParent, CRect rect, UINT nID, tagTabCtrlStyle style);
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
@@ -26,17 +30,9 @@ protected:
     afx_msg virtual BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
-    tagTabCtrlStyle m_eStyle = TAB_HORZ_CHAMFER;
-    COLORREF m_clrBack = RGB(0, 0, 0);
-    COLORREF m_clrFont = RGB(186, 187, 182);
-    COLORREF m_clrActiveTabBack = RGB(1, 153, 255);
-    COLORREF m_clrActiveTabFont = RGB(182, 0, 0);
-    COLORREF m_clrNormalTabBack = RGB(0, 0, 0);
-    int m_nFontSize = 12;
-    int m_nActive = -1;  ///< Position of the active tab.
-    int m_bFontBold = 1;
-    CArray<tagTabItemData, tagTabItemData&> m_arrItems;
+    void NotifyParent() const;
 };

@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+#include "wheel_geometry.h"
+
 /// Where one sector was painted and can be clicked.
 struct tagmyBRAreaInfo {
     tagmyBRData data;
@@ -13,8 +15,7 @@ struct tagmyBRAreaInfo {
 static_assert(sizeof(tagmyBRAreaInfo) == 52 && offsetof(tagmyBRAreaInfo, data) == 0 &&
               offsetof(tagmyBRAreaInfo, rect) == 36);
 
-/// Sector rotation wheel: keeps sectors, title, time and selection. The exported contract is CProxy_BR.
-/// Paints its background only so far; there is nothing to click, so the selection is the one that Init made.
+/// Sector rotation wheel: one spoke a sector, its share as a dot. The exported contract is CProxy_BR.
 class TavlonBR : public CWnd {
     DECLARE_DYNAMIC(TavlonBR)
 public:
@@ -37,22 +38,44 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
+    using AreaArray = CArray<tagmyBRAreaInfo, tagmyBRAreaInfo&>;
+
     void SelectNamed(std::string_view name);
-    void SpreadAngles();
     void ClearAreas();
+    void LoadDot();
+    int AngleOf(int nSector) const;  ///< Whole degrees clockwise from twelve.
+    int HitTest(CPoint point);       ///< The sector at that point, or -1.
+
+    // Paint.
+    void DrawInfo(CDC& dc);
+    void DrawTitleBand(CDC& dc);
+    CString SelectionText();
+    void DrawWheel(CDC& dc);
+    void DrawRings(CDC& dc, const WheelCircle& circle);
+    void DrawSpokes(CDC& dc, const WheelCircle& circle, int nTextHeight);
+    void DrawName(CDC& dc, int nSector, const NamePlace& place);
+    void DrawTopSpoke(CDC& dc, const WheelCircle& circle, int nTextHeight);
+    void DrawScale(CDC& dc, const WheelCircle& circle, const ShareRange& shares, int nTextHeight);
+    void DrawDots(CDC& dc, const WheelCircle& circle, const ShareRange& shares);
+    ShareRange GetValueRange();
 
     HWND m_hParent = nullptr;  ///< Told about double clicks.
     tagBlocksInfo m_blocksInfo{};
     CArray<tagmyBRData, tagmyBRData&> m_arrData;
-    CUIntArray m_arrAngle;  ///< Whole degrees clockwise from twelve, all records but the last.
-    CArray<tagmyBRAreaInfo, tagmyBRAreaInfo&> m_arrDotArea;
-    CArray<tagmyBRAreaInfo, tagmyBRAreaInfo&> m_arrLabelArea;
+    CUIntArray m_arrAngle;  ///< Of all records but the last, which stands at twelve.
+    AreaArray m_arrDotArea;
+    AreaArray m_arrLabelArea;
+    CBitmap m_bmpDot;
     UINT m_nID = 0;
     int m_nCount = 0;
     int m_nSelect = -1;
+    WheelLayout m_layout;
     CTime m_tmUpdate;
     bool m_bShowTime = false;
 };

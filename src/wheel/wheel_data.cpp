@@ -1,5 +1,8 @@
-#include "../foundation/control_window.h"
-#include "../foundation/text_copy.h"
+// What the sector wheel keeps.
+#include "foundation/control_window.h"
+#include "foundation/library.h"
+#include "foundation/text_copy.h"
+#include "resources/resource.h"
 #include "wheel_ctrl.h"
 
 int TavlonBR::Init(CArray<tagmyBRData, tagmyBRData&>& data, const tagBlocksInfo& info) {
@@ -8,8 +11,10 @@ int TavlonBR::Init(CArray<tagmyBRData, tagmyBRData&>& data, const tagBlocksInfo&
     m_arrData.SetSize(m_nCount);
     for (int i = 0; i < m_nCount; ++i) m_arrData[i] = data[i];
     SelectNamed(FieldText(m_blocksInfo.current));
-    SpreadAngles();
+    m_arrAngle.RemoveAll();
+    for (const UINT nAngle : SpokeAngles(m_nCount)) m_arrAngle.Add(nAngle);
     ClearAreas();
+    LoadDot();
     return TRUE;
 }
 
@@ -22,22 +27,23 @@ void TavlonBR::SelectNamed(std::string_view name) {
     }
 }
 
-void TavlonBR::SpreadAngles() {
-    m_arrAngle.RemoveAll();
-    if (m_nCount < 1) return;
-    const float fStep = 360.0f / static_cast<float>(m_nCount);
-    float fAngle = 0.0f;
-    for (int i = 1; i < m_nCount; ++i) {
-        fAngle += fStep;
-        m_arrAngle.Add(static_cast<UINT>(fAngle));
-    }
-}
-
 void TavlonBR::ClearAreas() {
     for (auto* pAreas : {&m_arrDotArea, &m_arrLabelArea}) {
         pAreas->RemoveAll();
         pAreas->SetSize(m_nCount);
     }
+}
+
+/// A wheel without the bitmap has no dots to be seen.
+void TavlonBR::LoadDot() {
+    m_bmpDot.DeleteObject();
+    const HANDLE hDot = ::LoadImage(LibraryInstance(), MAKEINTRESOURCE(IDB_POINT_RED_BIG), IMAGE_BITMAP, 0, 0,
+                                    LR_CREATEDIBSECTION);
+    if (hDot != nullptr) m_bmpDot.Attach(hDot);
+}
+
+int TavlonBR::AngleOf(int nSector) const {
+    return nSector < m_nCount - 1 ? static_cast<int>(m_arrAngle[nSector]) : 0;
 }
 
 void TavlonBR::SetUpdateTime(CTime& time) {

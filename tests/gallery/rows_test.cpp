@@ -4,6 +4,7 @@
 #include "error_of.h"
 #include "gallery/core/flows.h"
 #include "gallery/core/ranks.h"
+#include "gallery/core/sectors.h"
 #include "gallery/core/stocks.h"
 
 using namespace gallery;
@@ -23,6 +24,10 @@ std::vector<Stock> Stocks(const std::string& rows) {
 
 std::vector<Flow> Flows(const std::string& rows) {
     return FlowsOf(CsvTable::Parse(kFlowHeader + rows, "f.csv"));
+}
+
+std::vector<Sector> Sectors(const std::string& rows) {
+    return SectorsOf(CsvTable::Parse("industry,stocks,main_net_yuan,amount_yuan\n" + rows, "i.csv"));
 }
 
 using Values = std::vector<std::optional<double>>;
@@ -137,5 +142,44 @@ TEST(Flows, Energy) {
         Flow flow;
         flow.netShares = c.shares;
         EXPECT_EQ(c.want, EnergyOf(flow));
+    }
+}
+
+TEST(Sectors, ReadsARow) {
+    const std::vector<Sector> sectors = Sectors("\xE9\x93\xB6\xE8\xA1\x8C,42,-712000000,25490000000\n");
+    ASSERT_EQ(1u, sectors.size());
+    EXPECT_EQ("银行", sectors[0].name);
+    EXPECT_DOUBLE_EQ(-7.12 / 254.9 * 100, MainShare(sectors[0]));
+    EXPECT_EQ("个股42只，主力净买入-7.12亿元，成交额254.90亿元", Describe(sectors[0]));
+}
+
+TEST(Sectors, MalformedRowsAreRefused) {
+    struct Case {
+        const char *pszName, *pszRow, *pszWant;
+    };
+    for (const Case& c :
+         {Case{"no name", ",1,2,3", "i.csv: line 2, column 1 (industry): empty"},
+          Case{"no stocks", "a,,2,3", "i.csv: line 2, column 2 (stocks): empty"},
+          Case{"flow not known", "a,1,,3", "i.csv: line 2, column 3 (main_net_yuan): empty"},
+          Case{"turnover not known", "a,1,2,", "i.csv: line 2, column 4 (amount_yuan): empty"},
+          Case{"no share of nothing", "a,1,0,0", "i.csv: line 2, column 4 (amount_yuan): no turnover"}}) {
+        SCOPED_TRACE(c.pszName);
+        EXPECT_EQ(c.pszWant, ErrorOf([&] { Sectors(c.pszRow); }));
+    }
+}
+
+TEST(Sectors, TheLargestComeFirst) {
+    const std::vector<Sector> sectors = Sectors("a,1,0,5\nb,1,0,9\nc,1,0,5\nd,1,0,7\n");
+    struct Case {
+        const char* pszName;
+        std::size_t nMost;
+        const char* pszWant;
+    };
+    for (const Case& c : {Case{"some", 2, "bd"}, Case{"of equal ones the earlier", 3, "bda"},
+                          Case{"more than there are", 9, "bdac"}, Case{"none", 0, ""}}) {
+        SCOPED_TRACE(c.pszName);
+        std::string names;
+        for (const Sector& sector : LargestSectors(sectors, c.nMost)) names += sector.name;
+        EXPECT_EQ(c.pszWant, names);
     }
 }

@@ -27,11 +27,14 @@ TEST(Script, ReadsEveryAction) {
         "rightclick 7 8\n"
         "key PageDown\n"
         "menu  \xE5\x85\xA8\xE9\x83\xA8\xE6\x98\xBE\xE7\xA4\xBA x\n"
-        "shot out dir/a.png");
-    ASSERT_EQ(11u, steps.size());
+        "shot out dir/a.png\n"
+        "tab radar\n"
+        "window b.png");
+    ASSERT_EQ(13u, steps.size());
     const Action wanted[] = {Action::Page,    Action::Size,  Action::Move,        Action::Press,
                              Action::Release, Action::Click, Action::DoubleClick, Action::RightClick,
-                             Action::Key,     Action::Menu,  Action::Shot};
+                             Action::Key,     Action::Menu,  Action::Shot,        Action::Tab,
+                             Action::Window};
     for (std::size_t n = 0; n < steps.size(); ++n) EXPECT_EQ(wanted[n], steps[n].action) << n;
     EXPECT_EQ("wheel", steps[0].text);
     EXPECT_EQ(2u, steps[0].nLine);
@@ -44,6 +47,8 @@ TEST(Script, ReadsEveryAction) {
     EXPECT_EQ("全部显示 x", steps[9].text);
     EXPECT_EQ("out dir/a.png", steps[10].text);
     EXPECT_EQ(13u, steps[10].nLine);
+    EXPECT_EQ("radar", steps[11].text);
+    EXPECT_EQ("b.png", steps[12].text);
 }
 
 TEST(Script, BadLinesAreNamed) {
@@ -54,6 +59,7 @@ TEST(Script, BadLinesAreNamed) {
          {Case{"unknown action", "move 1 2\njump 3\n", "s.txt: line 2: unknown action: jump"},
           Case{"actions are lower case", "Move 1 2\n", "s.txt: line 1: unknown action: Move"},
           Case{"unknown page", "\n\npage tabs\n", "s.txt: line 3: no page named tabs"},
+          Case{"tab of an unknown page", "tab pies\n", "s.txt: line 1: no page named pies"},
           Case{"no page", "page\n", "s.txt: line 1: page name missing"},
           Case{"one coordinate", "move 1\n", "s.txt: line 1: not two coordinates X Y"},
           Case{"three coordinates", "move 1 2 3\n", "s.txt: line 1: not two coordinates X Y"},

@@ -1,5 +1,4 @@
-// The gauges and the tab strip.
-#include <string>
+// The gauges.
 
 #include "scenes/control_scenes.h"
 
@@ -67,30 +66,6 @@ void PressureLadder(Stage& stage) {
         Frame(ladder, dice);
         ladder.ReDraw();
     });
-}
-
-void TabStrip(Stage& stage) {
-    static constexpr const char* kTabs[] = {"分时", "日线", "资金流向", "板块 ABC", "短", "主力持仓变化一览"};
-    Dice& dice = stage.dice;
-    ControlHost host;
-    CProxy_TabCtrl tabs;
-    const CRect place = AnyPlace(stage);
-    tabs.Create(&host, place, ControlHost::kId, static_cast<tagTabCtrlStyle>(dice.Between(0, 3)));
-    for (int i = dice.Between(0, 8); i > 0; --i) {
-        tagTabItemData item{};
-        item.nId = i;
-        Set(item.szText, CString(dice.Of(kTabs)));
-        tabs.AddItem(item);
-    }
-    if (Changes(dice)) tabs.SelectTabById(dice.Between(1, 8));
-    if (Changes(dice)) tabs.SetBackColor(dice.Colour());
-    if (Changes(dice)) tabs.SetFontColor(dice.Colour());
-    if (Changes(dice)) tabs.SetActiveTabBackColor(dice.Colour());
-    if (Changes(dice)) tabs.SetActiveTabFontColor(dice.Colour());
-    if (Changes(dice)) tabs.SetNormalTabBackColor(dice.Colour());
-    if (Changes(dice)) tabs.SetFontSize(dice.Between(10, 24));
-    if (Changes(dice)) tabs.SetFontBold(dice.OneIn(2));
-    host.Take(stage);
 }
 
 }  // namespace scenes::controls

@@ -17,6 +17,7 @@ constexpr PictureKind kKinds[] = {
     {"control_point_radar_worked_on", {300, 220}, PointRadarWorkedOn},
     {"control_star_chart_worked_on", {300, 220}, StarChartWorkedOn},
     {"control_wheel", {300, 240}, Wheel},
+    {"control_wheel_clicked", {300, 240}, WheelClicked},
     {"control_minute_chart", {360, 260}, MinuteChart},
     {"control_money_flow_pies", {300, 260}, MoneyFlowPies},
     {"control_price_radar", {400, 200}, PriceRadar},
@@ -25,6 +26,8 @@ constexpr PictureKind kKinds[] = {
     {"control_position_bar", {260, 220}, PositionBar},
     {"control_pressure_ladder", {240, 280}, PressureLadder},
     {"control_tab_strip", {300, 160}, TabStrip},
+    {"control_tab_column", {120, 260}, TabColumn},
+    {"control_tab_strip_unusual", {220, 160}, TabStripUnusual},
 };
 
 }  // namespace

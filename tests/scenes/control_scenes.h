@@ -14,6 +14,7 @@ void ValueRadarWorkedOn(Stage&);
 void PointRadarWorkedOn(Stage&);
 void StarChartWorkedOn(Stage&);
 void Wheel(Stage&);
+void WheelClicked(Stage&);
 void MinuteChart(Stage&);
 void MoneyFlowPies(Stage&);
 void PriceRadar(Stage&);
@@ -22,5 +23,7 @@ void RiskBar(Stage&);
 void PositionBar(Stage&);
 void PressureLadder(Stage&);
 void TabStrip(Stage&);
+void TabColumn(Stage&);
+void TabStripUnusual(Stage&);
 
 }  // namespace scenes::controls

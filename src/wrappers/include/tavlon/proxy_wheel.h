@@ -7,8 +7,16 @@
 
 class TavlonBR;
 
-/// Sector rotation wheel. A double click on a sector posts message WM_USER + 301 (both parameters 0) to the
-/// parent, which then reads the record with GetCurBlockData.
+/// Sector rotation wheel: one spoke a sector, clockwise, the last one at twelve; its share as a dot between
+/// the centre (the least share, at most 100) and the rim (the greatest, at least 0).
+///
+/// Mouse:   a click on a dot or a name selects that sector. A double click posts message WM_USER + 301 (both
+///          parameters 0) to the parent, which then reads the selected record with GetCurBlockData.
+/// Shares:  any number; one that is not finite has no dot and does not count for the scale. When all are
+///          equal, or further apart than single precision can tell, there is neither scale nor dot.
+/// Size:    names stand outside the rim, in the 30 px beside and the 65 px above the wheel, and may overlap;
+///          no wheel is drawn in less than 60 px of width or 90 px of height.
+/// Usage:   Init, ReDraw; then SetData for new shares, ReDraw.
 class TAVLON_API CProxy_BR {
 public:
     CProxy_BR();

@@ -111,7 +111,7 @@ enum tagTabCtrlStyle : int {
     TAB_HORZ_CHAMFER = 0,  ///< Side by side, lower corners cut.
     TAB_HORZ_BOX = 1,      ///< Side by side, plain boxes.
     TAB_VERT_CHAMFER = 2,  ///< Stacked, left corners cut, vertical captions.
-    TAB_VERT_NONE = 3      ///< Stacked, laid out but not drawn.
+    TAB_VERT_NONE = 3      ///< Stacked captions without a tab shape; a bar marks the active one.
 };
 
 /// The layout is checked where the record is compiled, in the host as in the library.
