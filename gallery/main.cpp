@@ -73,6 +73,10 @@ int Main(const std::vector<std::string>& args) {
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tavlon_gallery: %s\n", error.what());
         return EXIT_FAILURE;
+    } catch (CException* pError) {
+        pError->Delete();
+        std::fputs("tavlon_gallery: the system has no more windows, bitmaps or memory\n", stderr);
+        return EXIT_FAILURE;
     }
 }
 

@@ -37,15 +37,28 @@ void StoreAndRepaint(CWnd& wnd, Value& member, const std::type_identity_t<Value>
     wnd.Invalidate();
 }
 
+/// For WM_PAINT: without a device context to be had, nothing is painted, and nothing thrown to the host.
+template <class Paint>
+void PaintIfPossible(HWND hWnd, Paint paint) {
+    try {
+        paint();
+    } catch (CResourceException* pError) {
+        pError->Delete();
+        ::ValidateRect(hWnd, nullptr);  // or the message would come again and again
+    }
+}
+
 /// WM_PAINT of every control: draw(CDC& surface, const CRect& rcClient) composes the picture off screen,
 /// which then reaches the window in one transfer.
 template <class Draw>
 void PaintOffScreen(CWnd& wnd, Draw draw) {
     const HWND hWnd = wnd.GetSafeHwnd();
-    CPaintDC dcPaint(&wnd);
-    if (!IsStillWindow(&wnd, hWnd)) return;  // erasing is told to the host, too
-    CRect rcClient;
-    wnd.GetClientRect(&rcClient);
-    CMemDC dcSurface(&dcPaint, &rcClient);
-    draw(dcSurface, rcClient);
+    PaintIfPossible(hWnd, [&] {
+        CPaintDC dcPaint(&wnd);
+        if (!IsStillWindow(&wnd, hWnd)) return;  // erasing is told to the host, too
+        CRect rcClient;
+        wnd.GetClientRect(&rcClient);
+        CMemDC dcSurface(&dcPaint, &rcClient);
+        draw(dcSurface, rcClient);
+    });
 }

@@ -18,10 +18,12 @@ void CScatterCtrl::OnPaint() {
     rgnUpdate.CreateRectRgn(0, 0, 0, 0);
     GetUpdateRgn(&rgnUpdate);
     const HWND hWnd = m_hWnd;
-    CPaintDC dc(this);
-    if (!IsStillWindow(this, hWnd)) return;  // erasing is told to the host, too
-    ReDraw(&dc, &rgnUpdate);
-    PaintSelection(dc, *this);
+    PaintIfPossible(hWnd, [&] {
+        CPaintDC dc(this);
+        if (!IsStillWindow(this, hWnd)) return;  // erasing is told to the host, too
+        ReDraw(&dc, &rgnUpdate);
+        PaintSelection(dc, *this);
+    });
 }
 
 void CScatterCtrl::ReDraw(CDC* pDC, CRgn* pRgnUpdate) {

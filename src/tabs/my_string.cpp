@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -10,7 +11,8 @@ CMyString::CMyString(const char* pszText) {
     if (nWide <= 1) return;  // with its end
     m_pWideStr.reset(new (std::nothrow) wchar_t[nWide]);
     if (m_pWideStr == nullptr) return;
-    m_nLength = ::MultiByteToWideChar(CP_ACP, 0, pszText, -1, m_pWideStr.get(), nWide) - 1;
+    const int nWritten = ::MultiByteToWideChar(CP_ACP, 0, pszText, -1, m_pWideStr.get(), nWide);
+    m_nLength = std::max(nWritten - 1, 0);
 }
 
 const char* CMyString::GetAt(int i) {

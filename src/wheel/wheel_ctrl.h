@@ -78,4 +78,5 @@ private:
     WheelLayout m_layout;
     CTime m_tmUpdate;
     bool m_bShowTime = false;
+    bool m_bNew = false;  ///< What is kept has changed since the last paint.
 };

@@ -7,13 +7,16 @@
 
 int TavlonBR::Init(CArray<tagmyBRData, tagmyBRData&>& data, const tagBlocksInfo& info) {
     m_blocksInfo = info;
-    m_nCount = static_cast<int>(data.GetSize());
-    m_arrData.SetSize(m_nCount);
-    for (int i = 0; i < m_nCount; ++i) m_arrData[i] = data[i];
-    SelectNamed(FieldText(m_blocksInfo.current));
+    m_nCount = 0;  // should there be no memory for the lists
+    m_bNew = true;
+    const int nCount = static_cast<int>(data.GetSize());
+    m_arrData.SetSize(nCount);
+    for (int i = 0; i < nCount; ++i) m_arrData[i] = data[i];
     m_arrAngle.RemoveAll();
-    for (const UINT nAngle : SpokeAngles(m_nCount)) m_arrAngle.Add(nAngle);
+    for (const UINT nAngle : SpokeAngles(nCount)) m_arrAngle.Add(nAngle);
     ClearAreas();
+    m_nCount = nCount;
+    SelectNamed(FieldText(m_blocksInfo.current));
     LoadDot();
     return TRUE;
 }
@@ -30,7 +33,7 @@ void TavlonBR::SelectNamed(std::string_view name) {
 void TavlonBR::ClearAreas() {
     for (auto* pAreas : {&m_arrDotArea, &m_arrLabelArea}) {
         pAreas->RemoveAll();
-        pAreas->SetSize(m_nCount);
+        pAreas->SetSize(m_arrData.GetSize());
     }
 }
 
@@ -55,6 +58,7 @@ void TavlonBR::SetUpdateTime(CTime& time) {
 int TavlonBR::SetTitle(CString& title) {
     if (title.GetLength() >= static_cast<int>(sizeof m_blocksInfo.title)) return FALSE;
     CopyText(m_blocksInfo.title, title);
+    m_bNew = true;
     return TRUE;
 }
 
@@ -76,5 +80,6 @@ int TavlonBR::SetData(tagmyBRData& data) {
 int TavlonBR::SetData(int index, tagmyBRData& data) {
     if (index < 0 || index >= m_nCount || FieldText(data.name).empty()) return FALSE;
     m_arrData[index] = data;
+    m_bNew = true;
     return TRUE;
 }

@@ -52,6 +52,8 @@ CString TextOf(const char (&szField)[nSize]) {
 }  // namespace
 
 void TavlonBR::OnPaint() {
+    if (m_bNew) Invalidate();  // new sectors show everywhere, whatever part was asked for
+    m_bNew = false;
     PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) {
         dc.FillSolidRect(rcClient, k_clrBack);
         const int nSaved = dc.SaveDC();

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 #include "scatter/radar_window.h"
 #include "wheel/wheel_geometry.h"
@@ -121,6 +122,30 @@ TEST_F(Wheel, AreasAreThoseLastPainted) {
     Paint();
     for (int y = 0; y < 40; ++y) ::SendMessage(Handle(), WM_LBUTTONDOWN, 0, MAKELPARAM(20, y));
     EXPECT_EQ("一", Selected());
+}
+
+TEST_F(Wheel, LeastRoom) {
+    for (const auto& [cx, cy, bWheel] : {std::tuple(58, 300, false), std::tuple(59, 300, true),
+                                         std::tuple(300, 88, false), std::tuple(300, 89, true)}) {
+        Load({});  // selects nothing
+        Load({SectorOf("东", 60), SectorOf("南", 20)});
+        ::MoveWindow(Handle(), 0, 0, cx, cy, TRUE);
+        Paint();
+        for (int x = 0; x < cx; ++x)
+            for (int y = 0; y < cy; ++y) ::SendMessage(Handle(), WM_LBUTTONDOWN, 0, MAKELPARAM(x, y));
+        EXPECT_EQ(bWheel, !Selected().empty()) << cx << " x " << cy;
+    }
+}
+
+TEST_F(Wheel, NewSectorsShowEverywhereAtTheNextPaint) {
+    Take();
+    tagmyBRData sector = SectorOf("南", 55);
+    EXPECT_TRUE(wheel->SetData(sector));
+    const CRect rcCorner(0, 0, 1, 1);
+    ::InvalidateRect(Handle(), &rcCorner, TRUE);
+    const Shot part = Take();
+    wheel->ReDraw();
+    EXPECT_EQ(CPoint(-1, -1), part.FirstDifference(Take()));
 }
 
 TEST_F(Wheel, DoubleClickIsPosted) {

@@ -15,7 +15,7 @@ class TavlonBR;
 /// Shares:  any number; one that is not finite has no dot and does not count for the scale. When all are
 ///          equal, or further apart than single precision can tell, there is neither scale nor dot.
 /// Size:    names stand outside the rim, in the 30 px beside and the 65 px above the wheel, and may overlap;
-///          no wheel is drawn in less than 60 px of width or 90 px of height.
+///          no wheel is drawn in less than 59 px of width or 89 px of height.
 /// Usage:   Init, ReDraw; then SetData for new shares, ReDraw.
 class TAVLON_API CProxy_BR {
 public:
