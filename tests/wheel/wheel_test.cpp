@@ -175,6 +175,15 @@ TEST_F(Wheel, HostMayDestroyItWhenTold) {
     EXPECT_FALSE(::IsWindow(Handle()));
 }
 
+TEST_F(Wheel, HostMayDestroyItselfWhenTold) {
+    told = [this] { host.DestroyWindow(); };
+    Send(WM_LBUTTONDOWN, k_ptEast);
+    Send(WM_LBUTTONDBLCLK, k_ptEast);
+    HostWindow::Pump();
+    EXPECT_EQ(1, host.nTold);
+    EXPECT_EQ("东", Selected()) << "the wheel without its window";
+}
+
 TEST_F(Wheel, MessageOutlivesTheWheel) {
     Send(WM_LBUTTONDBLCLK, k_ptEast);
     wheel.reset();
