@@ -52,49 +52,6 @@ TEST(Repaints, Wheel) {
                       STORES(Play()), STORES(Stop())});
 }
 
-/// As many brushes as there are to be had, within reason.
-class Hoard {
-public:
-    Hoard() {
-        constexpr std::size_t k_nMost = 70000;  // more than Windows gives a process
-        while (m_brushes.size() < k_nMost) {
-            const HBRUSH hBrush = ::CreateSolidBrush(k_clr);
-            if (hBrush == nullptr) break;
-            m_brushes.push_back(hBrush);
-        }
-    }
-    ~Hoard() {
-        for (const HBRUSH hBrush : m_brushes) ::DeleteObject(hBrush);
-    }
-
-private:
-    std::vector<HBRUSH> m_brushes;
-};
-
-template <class Proxy>
-class Handles : public testing::Test {};
-using Proxies = testing::Types<CProxy_BR, CProxy_RoePointCtrl, CProxy_PointRadarCtrl, CProxy_PointStartCtrl,
-                               CProxy_TabCtrl, CProxy_PieChartCtrl>;
-TYPED_TEST_SUITE(Handles, Proxies);
-
-TYPED_TEST(Handles, WithoutAnyNothingIsThrown) {
-    HostWindow host;
-    TypeParam proxy;
-    ASSERT_TRUE(CreateIn(proxy, &host));
-    const HWND hWnd = ControlIn(host);
-    HostWindow::Pump();
-    const Hoard hoard;
-    const auto work = [&] {
-        ::SendMessage(hWnd, WM_LBUTTONDOWN, 0, MAKELPARAM(80, 80));
-        ::SendMessage(hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(90, 85));
-        ::InvalidateRect(hWnd, nullptr, TRUE);
-        HostWindow::Pump();
-        ::SendMessage(hWnd, WM_LBUTTONUP, 0, MAKELPARAM(90, 85));
-        HostWindow::Pump();
-    };
-    EXPECT_NO_THROW(work());
-}
-
 TEST(Repaints, MinuteChart) {
     static tagStockItem item{};
     static tagmyMinuteData data{1, 93100, 0, 0, 0, 10.0f, 1.0f, 0, 0.0f};
