@@ -23,5 +23,11 @@ int main(int argc, char** argv) {
     reporter.PrintRatio("hit grid, rebuild : full repaint", "HitGrid/Rebuild3000", "ValueRadar/FullRepaint");
     reporter.PrintRatio("hit grid, find : linear search", "HitGrid/Find", "HitGrid/LinearSearch");
     reporter.PrintRatio("hit grid, rebuild : linear search", "HitGrid/Rebuild3000", "HitGrid/LinearSearch");
+    reporter.PrintRatio("minute chart, full repaint : copy of one frame", "MinuteChart/FullRepaint",
+                        "MinuteChart/CopyOfOneFrame");
+    reporter.PrintRatio("minute chart, cross-hair move : copy of one frame", "MinuteChart/CrossHairMove",
+                        "MinuteChart/CopyOfOneFrame");
+    reporter.PrintRatio("minute chart, cross-hair move : full repaint", "MinuteChart/CrossHairMove",
+                        "MinuteChart/FullRepaint");
     return 0;
 }

@@ -18,6 +18,8 @@ namespace gallery {
 
 namespace {
 
+constexpr char kLivePage[] = "minute";
+
 /// Off the desktop: pictures and scripts must not depend on one. Read before the first window is made; means
 /// nothing where the system itself draws.
 void ChooseHeadlessDisplay() {
@@ -50,10 +52,10 @@ void Run(const Arguments& args) {
     if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay();
     if (args.mode != Arguments::Mode::Window) ParkPointer();
     if (args.plainText) SystemParametersInfo(SPI_SETFONTSMOOTHING, FALSE, nullptr, 0);
-    MainWindow wnd(args.data.value_or(FindDataDir()), Pages());
+    MainWindow wnd({args.data.value_or(FindDataDir()), args.liveSpeed}, Pages());
     wnd.Open(PageSize());
     if (args.mode == Arguments::Mode::Render) return Render(wnd, args);
-    wnd.ShowPage(Pages().front());
+    wnd.ShowPage(args.liveSpeed ? FindPage(kLivePage) : Pages().front());
     if (args.mode == Arguments::Mode::Window) return RunMessageLoop();
     wnd.SetPageSize(PageSize());
     Player(wnd, std::move(steps), args.target.string()).Play();

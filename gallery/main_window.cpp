@@ -35,8 +35,8 @@ ON_WM_GETMINMAXINFO()
 ON_COMMAND(kTabsId, OnTab)
 END_MESSAGE_MAP()
 
-MainWindow::MainWindow(std::filesystem::path dataDir, const std::vector<PageEntry>& pages)
-    : m_pages(pages), m_dataDir(std::move(dataDir)) {}
+MainWindow::MainWindow(PageSettings settings, const std::vector<PageEntry>& pages)
+    : m_pages(pages), m_settings(std::move(settings)) {}
 
 void MainWindow::Open(PageSize size) {
     const CString strClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
@@ -60,7 +60,7 @@ void MainWindow::CreateTabs() {
 }
 
 void MainWindow::ShowPage(const PageEntry& page) {
-    std::unique_ptr<Page> pNew = page.pfnMake(m_dataDir);
+    std::unique_ptr<Page> pNew = page.pfnMake(m_settings);
     m_pPage.reset();
     if (!pNew->CreateOn(*this, PageArea()))
         throw Error("the windows of page " + page.name + " cannot be made");

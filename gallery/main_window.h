@@ -14,7 +14,7 @@ namespace gallery {
 class MainWindow : public CWnd {
 public:
     /// The pages in the order of their tabs, at least one; they must outlive the window.
-    MainWindow(std::filesystem::path dataDir, const std::vector<PageEntry>& pages);
+    MainWindow(PageSettings settings, const std::vector<PageEntry>& pages);
 
     void Open(PageSize size);  ///< Makes and shows the window; an Error when that fails.
     /// Replaces the page; the Error of its data or of a window not made. When the user turned the page, the
@@ -51,7 +51,7 @@ private:
 
     const std::vector<PageEntry>& m_pages;
     CProxy_TabCtrl m_tabs;
-    std::filesystem::path m_dataDir;
+    PageSettings m_settings;
     std::unique_ptr<Page> m_pPage;
     std::string m_strPage;  ///< Name of the page shown.
     std::function<void()> m_tick;

@@ -47,8 +47,12 @@ void Page::OnSetFocus(CWnd* pOldWnd) {
 }
 
 void Page::SetNotes(std::vector<std::string> notes) {
+    const int nOldHeight = NotesHeight();
     m_notes = std::move(notes);
-    if (m_bReady) PlaceControls(ContentRect()), Invalidate();
+    if (!m_bReady) return;
+    if (NotesHeight() != nOldHeight) PlaceControls(ContentRect()), Invalidate();
+    const CRect rcNotes = NotesRect();
+    InvalidateRect(&rcNotes);
 }
 
 int Page::NotesHeight() const {
@@ -62,6 +66,13 @@ CRect Page::ContentRect() const {
     return rc;
 }
 
+CRect Page::NotesRect() const {
+    CRect rc;
+    GetClientRect(&rc);
+    rc.top = ContentRect().bottom;
+    return rc;
+}
+
 void Page::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
     if (m_bReady) PlaceControls(ContentRect()), Invalidate();
@@ -71,11 +82,9 @@ BOOL Page::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void Page::OnPaint() {
     CPaintDC dc(this);
-    CRect rcClient;
-    GetClientRect(&rcClient);
     const CRect rcContent = ContentRect();
     dc.FillSolidRect(&rcContent, RGB(0, 0, 0));  // what the controls leave free
-    DrawLines(dc, CRect(rcClient.left, rcContent.bottom, rcClient.right, rcClient.bottom), m_notes);
+    DrawLines(dc, NotesRect(), m_notes);
 }
 
 }  // namespace gallery

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ protected:
     /// control does not get it.
     virtual bool OnKey(UINT /*nKey*/) { return false; }
 
-    /// The lines under the controls, code page 936.
+    /// The lines under the controls, code page 936. As many lines as before leave the controls alone.
     void SetNotes(std::vector<std::string> notes);
     CRect ContentRect() const;
 
@@ -42,9 +43,16 @@ protected:
 
 private:
     int NotesHeight() const;
+    CRect NotesRect() const;
 
     std::vector<std::string> m_notes;
     bool m_bReady = false;  ///< The controls exist.
+};
+
+/// What every page is made with.
+struct PageSettings {
+    std::filesystem::path dataDir;
+    std::optional<int> liveSpeed;  ///< Replay what can be replayed, minutes of trading a second.
 };
 
 /// One line of the list of pages.
@@ -52,7 +60,7 @@ struct PageEntry {
     std::string name;   ///< For the command line, scripts and file names.
     std::string title;  ///< For people, code page 936.
     /// Reads what the page needs from the data directory; throws Error when that fails.
-    std::unique_ptr<Page> (*pfnMake)(const std::filesystem::path& dataDir);
+    std::unique_ptr<Page> (*pfnMake)(const PageSettings& settings);
 };
 
 }  // namespace gallery

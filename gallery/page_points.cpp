@@ -34,8 +34,8 @@ public:
 
 }  // namespace
 
-std::unique_ptr<Page> MakePointsPage(const std::filesystem::path& dataDir) {
-    return std::make_unique<PointsPage>(ReadStocks(dataDir / kDayFile));
+std::unique_ptr<Page> MakePointsPage(const PageSettings& settings) {
+    return std::make_unique<PointsPage>(ReadStocks(settings.dataDir / kDayFile));
 }
 
 }  // namespace gallery

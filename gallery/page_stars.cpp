@@ -81,8 +81,8 @@ private:
 
 }  // namespace
 
-std::unique_ptr<Page> MakeStarsPage(const std::filesystem::path& dataDir) {
-    return std::make_unique<StarsPage>(ReadFlows(dataDir / kFile));
+std::unique_ptr<Page> MakeStarsPage(const PageSettings& settings) {
+    return std::make_unique<StarsPage>(ReadFlows(settings.dataDir / kFile));
 }
 
 }  // namespace gallery

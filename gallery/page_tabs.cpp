@@ -147,6 +147,6 @@ void TabsPage::OnTab(UINT nId) {
 
 }  // namespace
 
-std::unique_ptr<Page> MakeTabsPage(const std::filesystem::path&) { return std::make_unique<TabsPage>(); }
+std::unique_ptr<Page> MakeTabsPage(const PageSettings&) { return std::make_unique<TabsPage>(); }
 
 }  // namespace gallery

@@ -36,8 +36,8 @@ private:
 
 }  // namespace
 
-std::unique_ptr<Page> MakeValueRadarPage(const std::filesystem::path& dataDir) {
-    return std::make_unique<ValueRadarPage>(ReadStocks(dataDir / kDayFile));
+std::unique_ptr<Page> MakeValueRadarPage(const PageSettings& settings) {
+    return std::make_unique<ValueRadarPage>(ReadStocks(settings.dataDir / kDayFile));
 }
 
 }  // namespace gallery

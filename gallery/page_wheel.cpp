@@ -139,8 +139,8 @@ void WheelPage::Tell(std::string strAnswer) {
 
 }  // namespace
 
-std::unique_ptr<Page> MakeWheelPage(const std::filesystem::path& dataDir) {
-    return std::make_unique<WheelPage>(ReadSectors(dataDir / kFile));
+std::unique_ptr<Page> MakeWheelPage(const PageSettings& settings) {
+    return std::make_unique<WheelPage>(ReadSectors(settings.dataDir / kFile));
 }
 
 }  // namespace gallery

@@ -8,7 +8,7 @@ const std::vector<PageEntry>& Pages() {
     static const std::vector<PageEntry> pages{
         {"radar", "价值雷达", MakeValueRadarPage}, {"points", "涨幅-涨停系数", MakePointsPage},
         {"stars", "能量星空图", MakeStarsPage},    {"wheel", "行业轮动", MakeWheelPage},
-        {"tabs", "标签条", MakeTabsPage},
+        {"minute", "分时", MakeMinutePage},        {"tabs", "标签条", MakeTabsPage},
     };
     return pages;
 }

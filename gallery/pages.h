@@ -10,10 +10,11 @@ std::vector<std::string> PageNames();
 const PageEntry& FindPage(const std::string& name);  ///< An Error when there is none of that name.
 
 // The factories, each in the page's own file.
-std::unique_ptr<Page> MakeValueRadarPage(const std::filesystem::path& dataDir);
-std::unique_ptr<Page> MakePointsPage(const std::filesystem::path& dataDir);
-std::unique_ptr<Page> MakeStarsPage(const std::filesystem::path& dataDir);
-std::unique_ptr<Page> MakeWheelPage(const std::filesystem::path& dataDir);
-std::unique_ptr<Page> MakeTabsPage(const std::filesystem::path& dataDir);
+std::unique_ptr<Page> MakeValueRadarPage(const PageSettings& settings);
+std::unique_ptr<Page> MakePointsPage(const PageSettings& settings);
+std::unique_ptr<Page> MakeStarsPage(const PageSettings& settings);
+std::unique_ptr<Page> MakeWheelPage(const PageSettings& settings);
+std::unique_ptr<Page> MakeMinutePage(const PageSettings& settings);
+std::unique_ptr<Page> MakeTabsPage(const PageSettings& settings);
 
 }  // namespace gallery

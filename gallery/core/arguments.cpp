@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "error.h"
+#include "pace.h"
 
 namespace gallery {
 
@@ -21,6 +22,8 @@ public:
             throw UsageError("--page and --size go with --render");
         if (m_out.mode == Arguments::Mode::Window && m_out.plainText)
             throw UsageError("--plain-text goes with --render and --script");
+        if (m_out.mode != Arguments::Mode::Window && m_out.liveSpeed)
+            throw UsageError("--live is for the window");
         return m_out;
     }
 
@@ -36,6 +39,8 @@ private:
             SetOnce(m_out.page, option, Page(Value(option)));
         else if (option == "--size")
             SetOnce(m_out.size, option, Size(Value(option)));
+        else if (option == "--live")
+            SetOnce(m_out.liveSpeed, option, NextIsValue() ? Speed(Value(option)) : Pace::kUsual);
         else if (option == "--plain-text")
             m_out.plainText = true;
         else if (option == "--data")
@@ -60,6 +65,9 @@ private:
         return m_args[m_nNext++];
     }
 
+    /// Whether something else than an option follows.
+    bool NextIsValue() const { return m_nNext < m_args.size() && !m_args[m_nNext].starts_with("--"); }
+
     std::string Page(const std::string& name) const {
         if (std::ranges::find(m_pages, name) == m_pages.end()) throw UsageError("no page named " + name);
         return name;
@@ -69,6 +77,12 @@ private:
         const std::optional<PageSize> size = ParsePageSize(text);
         if (!size) throw UsageError("not a size such as 800x600: " + text);
         return *size;
+    }
+
+    static int Speed(const std::string& text) {
+        const std::optional<int> nSpeed = ParseInt(text, 1, Pace::kMost);
+        if (!nSpeed) throw UsageError("not a speed from 1 to " + std::to_string(Pace::kMost) + ": " + text);
+        return *nSpeed;
     }
 
     const std::vector<std::string>& m_args;
@@ -104,6 +118,8 @@ Arguments ParseArguments(const std::vector<std::string>& args, const std::vector
 std::string Usage(const std::vector<std::string>& pages) {
     std::string text =
         "usage: tavlon_gallery                 the charts in a window\n"
+        "       tavlon_gallery --live [SPEED]  the same, at the minute chart, which replays its day:\n"
+        "                                      1 to 240 minutes of trading a second, 4 if not given\n"
         "       tavlon_gallery --render DIR [--page NAME] [--size WxH] [--plain-text]\n"
         "                                      one PNG a page into DIR\n"
         "       tavlon_gallery --script FILE [--plain-text]\n"

@@ -27,6 +27,7 @@ struct Arguments {
     std::filesystem::path target;               ///< Render: the directory. Script: the file.
     std::optional<std::string> page;            ///< Render: this page only.
     std::optional<PageSize> size;               ///< Render: instead of the default.
+    std::optional<int> liveSpeed;               ///< Window: replay, minutes of trading a second.
     bool plainText = false;                     ///< Render, Script: text without smoothing.
     std::optional<std::filesystem::path> data;  ///< Data directory instead of the one found.
 };

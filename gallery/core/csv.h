@@ -44,4 +44,11 @@ private:
     std::vector<Row> m_rows;
 };
 
+/// The value; an Error about the field it was in when it is not known.
+template <class T>
+T Known(const CsvTable& table, std::size_t nRow, std::size_t nColumn, std::optional<T> value) {
+    if (!value) table.Refuse(nRow, nColumn, "empty");
+    return *value;
+}
+
 }  // namespace gallery

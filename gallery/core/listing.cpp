@@ -13,6 +13,8 @@ char MarketByte(const CsvTable& table, std::size_t nRow, std::size_t nColumn) {
     table.Refuse(nRow, nColumn, "neither SH nor SZ: " + market);
 }
 
+}  // namespace
+
 const std::string& StockCode(const CsvTable& table, std::size_t nRow, std::size_t nColumn) {
     const std::string& code = table.Field(nRow, nColumn);
     const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
@@ -20,8 +22,6 @@ const std::string& StockCode(const CsvTable& table, std::size_t nRow, std::size_
         table.Refuse(nRow, nColumn, "not six digits: " + code);
     return code;
 }
-
-}  // namespace
 
 Listing ListingColumns::Read(const CsvTable& table, std::size_t nRow) const {
     return {MarketByte(table, nRow, m_nMarket), StockCode(table, nRow, m_nCode), table.Gbk(nRow, m_nName)};

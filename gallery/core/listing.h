@@ -14,6 +14,9 @@ struct Listing {
     std::string name;  ///< Code page 936.
 };
 
+/// The six digits in a field; an Error about it when they are not.
+const std::string& StockCode(const CsvTable& table, std::size_t nRow, std::size_t nColumn);
+
 /// Reads the columns code, name and market; an Error for a table without them and for a malformed field.
 class ListingColumns {
 public:

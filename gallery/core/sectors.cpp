@@ -10,12 +10,6 @@ namespace {
 
 constexpr double kHundredMillion = 1e8;
 
-template <class T>
-T Known(const CsvTable& table, std::size_t nRow, std::size_t nColumn, std::optional<T> value) {
-    if (!value) table.Refuse(nRow, nColumn, "empty");
-    return *value;
-}
-
 class SectorColumns {
 public:
     explicit SectorColumns(const CsvTable& table)

@@ -1,6 +1,7 @@
 #include "minute_slots.h"
 
 #include <algorithm>
+#include <cmath>
 
 int TimeToSlot(unsigned int nTime) {
     const long long nHour = nTime / 10000;
@@ -25,7 +26,8 @@ void ResetSlots(MinuteArray& arrMinute) {
 }
 
 bool IsMinuteValid(const tagmyMinuteData& data) {
-    return data.dwKey != 0 && data.nTime != 0 && data.fPrice >= 0.0001f && data.fVolume >= 0.0f;
+    return data.dwKey != 0 && data.nTime != 0 && data.fPrice >= 0.0001f && data.fVolume >= 0.0f &&
+           std::isfinite(data.fPrice) && std::isfinite(data.fVolume);
 }
 
 void FillGaps(MinuteArray& arrMinute, int nLastIndex, float fPreClose) {

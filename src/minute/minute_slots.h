@@ -15,8 +15,8 @@ int TimeToSlot(unsigned int nTime);
 /// All slots empty, each with the time that an empty slot shows: 09:31 on for 122 slots, then 13:00 on.
 void ResetSlots(MinuteArray& arrMinute);
 
-/// Whether a minute may be stored: key and time set, price at least 0.0001, volume not negative. NaN is
-/// refused.
+/// Whether a minute may be stored: key and time set, price at least 0.0001, volume not negative, both
+/// finite.
 bool IsMinuteValid(const tagmyMinuteData& data);
 
 /// Up to the slot after nLastIndex, a slot without price repeats the price before it, the first ones

@@ -2,9 +2,9 @@
 #include <cmath>
 
 #include "foundation/control_window.h"
-#include "foundation/select_scope.h"
 #include "foundation/text_copy.h"
 #include "foundation/toolkit.h"
+#include "foundation/with_pen.h"
 #include "wheel_ctrl.h"
 
 namespace {
@@ -26,15 +26,6 @@ constexpr int k_nScaleGap = 10;  // between spoke and numbers
 constexpr float k_fLeastLabel = 0.005f;
 const CSize k_szDotCentre(7, 8);  // in its bitmap
 constexpr UINT k_nLineFormat = DT_END_ELLIPSIS | DT_SINGLELINE | DT_VCENTER;
-
-/// Draws with a pen of that look; nothing when there is none to be had.
-template <class Draw>
-void WithPen(CDC& dc, int nWidth, COLORREF clr, Draw draw) {
-    CPen pen;
-    if (!pen.CreatePen(PS_SOLID, nWidth, clr)) return;
-    const SelectScope scope(dc, pen);
-    draw();
-}
 
 /// An arc from the top once around.
 void DrawCircle(CDC& dc, const CRect& rcBox, CPoint ptTop) { dc.Arc(&rcBox, ptTop, ptTop); }

@@ -50,8 +50,10 @@ TEST(Arguments, Refused) {
         const char* pszName;
         std::vector<std::string> args;
     };
-    for (const Case& c : {Case{"unknown option", {"--fast"}}, Case{"stray word", {"radar"}},
-                          Case{"empty word", {""}}, Case{"render without a directory", {"--render"}},
+    for (const Case& c : {Case{"unknown option", {"--fast"}},
+                          Case{"stray word", {"radar"}},
+                          Case{"empty word", {""}},
+                          Case{"render without a directory", {"--render"}},
                           Case{"render with an empty directory", {"--render", ""}},
                           Case{"script without a file", {"--script"}},
                           Case{"render and script", {"--render", "a", "--script", "b"}},
@@ -59,6 +61,15 @@ TEST(Arguments, Refused) {
                           Case{"page without render", {"--page", "radar"}},
                           Case{"plain text in the window", {"--plain-text"}},
                           Case{"size with script", {"--script", "f", "--size", "10x10"}},
+                          Case{"speed 0", {"--live", "0"}},
+                          Case{"too fast", {"--live", "241"}},
+                          Case{"speed with a fraction", {"--live", "1.5"}},
+                          Case{"negative speed", {"--live", "-1"}},
+                          Case{"a speed that is no number", {"--live", "fast"}},
+                          Case{"empty speed", {"--live", ""}},
+                          Case{"live twice", {"--live", "--live"}},
+                          Case{"live and render", {"--live", "--render", "a"}},
+                          Case{"live and script", {"--script", "f", "--live", "4"}},
                           Case{"unknown page", {"--render", "a", "--page", "tabs"}},
                           Case{"page twice", {"--render", "a", "--page", "radar", "--page", "radar"}},
                           Case{"size without a cross", {"--render", "a", "--size", "800"}},
@@ -68,6 +79,23 @@ TEST(Arguments, Refused) {
                           Case{"too wide", {"--render", "a", "--size", "8193x10"}}}) {
         SCOPED_TRACE(c.pszName);
         EXPECT_THROW(ParseArguments(c.args, kPages), UsageError);
+    }
+}
+
+TEST(Arguments, LiveSpeed) {
+    struct Case {
+        const char* pszName;
+        std::vector<std::string> args;
+        std::optional<int> want;
+    };
+    for (const Case& c : {Case{"not live", {}, std::nullopt}, Case{"no speed", {"--live"}, 4},
+                          Case{"slowest", {"--live", "1"}, 1}, Case{"fastest", {"--live", "240"}, 240},
+                          Case{"an option follows", {"--live", "--data", "d"}, 4},
+                          Case{"a speed and an option", {"--data", "d", "--live", "60"}, 60}}) {
+        SCOPED_TRACE(c.pszName);
+        const Arguments got = ParseArguments(c.args, kPages);
+        EXPECT_EQ(Mode::Window, got.mode);
+        EXPECT_EQ(c.want, got.liveSpeed);
     }
 }
 

@@ -21,12 +21,12 @@ class PlainPage : public Page {
     void PlaceControls(const CRect&) override {}
 };
 
-std::unique_ptr<Page> MakePlain(const std::filesystem::path&) {
+std::unique_ptr<Page> MakePlain(const PageSettings&) {
     ++s_nMade;
     return std::make_unique<PlainPage>();
 }
 
-std::unique_ptr<Page> Fail(const std::filesystem::path&) { throw Error("no data"); }
+std::unique_ptr<Page> Fail(const PageSettings&) { throw Error("no data"); }
 
 class MainWindowTest : public testing::Test {
 protected:
@@ -68,7 +68,7 @@ protected:
 
     const std::vector<PageEntry> m_pages{
         {"a", "一", MakePlain}, {"b", "二", MakePlain}, {"c", "三", MakePlain}, {"broken", "坏", Fail}};
-    MainWindow m_wnd{"", m_pages};
+    MainWindow m_wnd{{}, m_pages};
 };
 
 }  // namespace

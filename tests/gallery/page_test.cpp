@@ -16,6 +16,8 @@ public:
     HWND First() const { return ControlIn(*this, kFirstId); }
     HWND Second() const { return ControlIn(*this, kSecondId); }
 
+    void Say(std::vector<std::string> notes) { SetNotes(std::move(notes)); }
+
 private:
     BOOL CreateControls() override {
         SetNotes({"one", "two"});
@@ -93,4 +95,22 @@ TEST_F(PageTest, ControlsGetTheRoomAboveTheNotes) {
     ::GetWindowRect(m_page.Second(), &rc);
     m_page.ScreenToClient(&rc);
     EXPECT_EQ(CRect(100, 0, 200, 100 - 2 * 18 - 2 * 4), rc);
+}
+
+TEST_F(PageTest, NewNotesLeaveTheControlsAlone) {
+    HostWindow::Pump();
+    TakeRepaint(m_page.m_hWnd), TakeRepaint(m_page.First()), TakeRepaint(m_page.Second());
+    m_page.Say({"three", "four"});
+    EXPECT_FALSE(TakeRepaint(m_page.First()));
+    EXPECT_FALSE(TakeRepaint(m_page.Second()));
+    CRect rcWaits;
+    ::GetUpdateRect(m_page.m_hWnd, &rcWaits, FALSE);
+    EXPECT_EQ(CRect(0, 200 - 2 * 18 - 2 * 4, 300, 200), rcWaits);
+}
+
+TEST_F(PageTest, MoreNotesTakeRoomFromTheControls) {
+    m_page.Say({"three", "four", "five"});
+    CRect rc;
+    ::GetClientRect(m_page.First(), &rc);
+    EXPECT_EQ(200 - 3 * 18 - 2 * 4, rc.Height());
 }

@@ -1,4 +1,4 @@
-// Wheel, minute chart, pies, price radar and histogram.
+// Wheel, pies, price radar and histogram.
 #include <cstdio>
 #include <string>
 
@@ -67,32 +67,6 @@ void WheelClicked(Stage& stage) {
     sector.value = static_cast<float>(Number(dice, -30, 30));
     if (Changes(dice)) wheel.SetData(dice.Between(0, 5), sector);
     host.Take(stage);
-}
-
-void MinuteChart(Stage& stage) {
-    TakeControl<CProxy_ChartOL>(stage, [&](CProxy_ChartOL& chart) {
-        Dice& dice = stage.dice;
-        tagStockItem stock{};
-        Set(stock.szCode, CString("600000"));
-        Set(stock.szName, CString("浦发银行"));
-        stock.fPreClose = static_cast<float>(Number(dice, 5, 60));
-        stock.nDecimal = dice.Between(dice.OneIn(5) ? -1 : 2, 3);
-        chart.Init(stock);
-        float price = stock.fPreClose, volume = 0;
-        for (int minute = 0, last = dice.Between(1, 240); minute < last; ++minute) {
-            if (dice.OneIn(8)) continue;
-            const int clock = minute < 120 ? 9 * 60 + 31 + minute : 13 * 60 + 1 + minute - 120;
-            price *= 1 + static_cast<float>(dice.Between(-60, 60)) / 10000;
-            volume += static_cast<float>(dice.Between(0, 5000));
-            tagmyMinuteData data{};
-            data.dwKey = 1;
-            data.nTime = static_cast<unsigned>(clock / 60 * 10000 + clock % 60 * 100);
-            data.fPrice = price, data.fVolume = volume;
-            data.fMainNetBuy = static_cast<float>(dice.OneIn(3) ? 0 : dice.Between(-900, 900));
-            chart.SetData(data);
-        }
-        chart.Play();
-    });
 }
 
 void MoneyFlowPies(Stage& stage) {

@@ -133,6 +133,8 @@ TEST(MinuteData, SetDataRefusals) {
           Case{"negative volume", 1, 93100, 10, -1, FALSE},
           Case{"price not a number", 1, 93100, k_fNaN, 1, FALSE},
           Case{"volume not a number", 1, 93100, 10, k_fNaN, FALSE},
+          Case{"infinite price", 1, 93100, static_cast<float>(k_dInfinity), 1, FALSE},
+          Case{"infinite volume", 1, 93100, 10, static_cast<float>(k_dInfinity), FALSE},
           Case{"any time has a slot", 1, 4294967295u, 10, 1, TRUE}}) {
         SCOPED_TRACE(c.pszName);
         CProxy_ChartOL chart;

@@ -62,7 +62,7 @@ struct tagmyMinuteData {
     unsigned int dwReserved2;  ///< Not read.
     unsigned int dwReserved3;  ///< Not read.
     float fPrice;              ///< Price, at least 0.0001.
-    float fVolume;             ///< Running volume figure, not negative.
+    float fVolume;             ///< Volume figure of the minute in shares, not negative.
     unsigned int dwReserved4;  ///< Not read.
     float fMainNetBuy;         ///< Main-force net buying in units of 10 000; 0 means none.
 };

@@ -1,0 +1,31 @@
+/// One trading day of several stocks, minute by minute.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "csv.h"
+
+namespace gallery {
+
+struct Minute {
+    int nEnd = 0;        ///< When it ends, HHMM: 931 to 1130 and 1301 to 1500.
+    double dPrice = 0;   ///< Of the last trade up to then, yuan; above 0.
+    int nLots = 0;       ///< Traded in it, lots of 100 shares; 0 when there was no trade.
+    double dAmount = 0;  ///< Turnover in it, yuan.
+    double dNetBuy = 0;  ///< What large orders bought more than they sold in it, yuan.
+};
+
+struct MinuteDay {
+    std::string code;             ///< Six digits.
+    std::string name;             ///< Code page 936.
+    double dPreClose = 0;         ///< Close of the day before, yuan; above 0.
+    std::vector<Minute> minutes;  ///< In the order of the day, at least one.
+};
+
+/// The stocks in the order of the file, at least one. Throws Error for a file that is missing or malformed.
+std::vector<MinuteDay> ReadMinuteDays(const std::filesystem::path& file);
+std::vector<MinuteDay> MinuteDaysOf(const CsvTable& table);  ///< None for a table without rows.
+
+}  // namespace gallery
