@@ -29,5 +29,9 @@ int main(int argc, char** argv) {
                         "MinuteChart/CopyOfOneFrame");
     reporter.PrintRatio("minute chart, cross-hair move : full repaint", "MinuteChart/CrossHairMove",
                         "MinuteChart/FullRepaint");
+    reporter.PrintRatio("pies, full repaint : copy of one frame", "Pies/FullRepaint", "Pies/CopyOfOneFrame");
+    reporter.PrintRatio("price radar, full repaint : copy of one frame", "PriceRadar/FullRepaint",
+                        "Pies/CopyOfOneFrame");
+    reporter.PrintRatio("anti-aliased outline : copy of one frame", "Pies/Outline", "Pies/CopyOfOneFrame");
     return 0;
 }

@@ -53,6 +53,8 @@ private:
 struct PageSettings {
     std::filesystem::path dataDir;
     std::optional<int> liveSpeed;  ///< Replay what can be replayed, minutes of trading a second.
+    /// The industry chosen last, by its place in the list of them that pages share; -1: none yet.
+    std::shared_ptr<int> pChosenIndustry = std::make_shared<int>(-1);
 };
 
 /// One line of the list of pages.

@@ -6,9 +6,14 @@ namespace gallery {
 
 const std::vector<PageEntry>& Pages() {
     static const std::vector<PageEntry> pages{
-        {"radar", "价值雷达", MakeValueRadarPage}, {"points", "涨幅-涨停系数", MakePointsPage},
-        {"stars", "能量星空图", MakeStarsPage},    {"wheel", "行业轮动", MakeWheelPage},
-        {"minute", "分时", MakeMinutePage},        {"tabs", "标签条", MakeTabsPage},
+        {"radar", "价值雷达", MakeValueRadarPage},
+        {"points", "涨幅-涨停系数", MakePointsPage},
+        {"stars", "能量星空图", MakeStarsPage},
+        {"wheel", "行业轮动", MakeWheelPage},
+        {"minute", "分时", MakeMinutePage},
+        {"pies", "资金饼图", MakePiesPage},
+        {"priceradar", "价格雷达", MakePriceRadarPage},
+        {"tabs", "标签条", MakeTabsPage},
     };
     return pages;
 }

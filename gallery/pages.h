@@ -15,6 +15,8 @@ std::unique_ptr<Page> MakePointsPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeStarsPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeWheelPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeMinutePage(const PageSettings& settings);
+std::unique_ptr<Page> MakePiesPage(const PageSettings& settings);
+std::unique_ptr<Page> MakePriceRadarPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeTabsPage(const PageSettings& settings);
 
 }  // namespace gallery

@@ -1,5 +1,7 @@
 #include "edge_border.h"
 
+#include "toolkit.h"
+
 void EdgeBorder::SetSide(COLORREF clr, int nSide) {
     switch (nSide) {
         case 0:
@@ -17,4 +19,12 @@ void EdgeBorder::SetSide(COLORREF clr, int nSide) {
         default:
             break;
     }
+}
+
+void EdgeBorder::Draw(CDC& dc, const CRect& rc) const {
+    const int nRight = rc.right - 1, nBottom = rc.bottom - 1;
+    DrawSolidLine(&dc, 1, clrLeft, rc.left, rc.top, rc.left, rc.bottom);
+    DrawSolidLine(&dc, 1, clrRight, nRight, rc.top, nRight, rc.bottom);
+    DrawSolidLine(&dc, 1, clrTop, rc.left, rc.top, nRight, rc.top);
+    DrawSolidLine(&dc, 1, clrBottom, rc.left, nBottom, nRight, nBottom);
 }

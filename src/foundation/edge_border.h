@@ -11,4 +11,7 @@ struct EdgeBorder {
 
     /// Side 0 top, 1 bottom, 2 left, 3 right; any other changes nothing.
     void SetSide(COLORREF clr, int nSide);
+
+    /// Left, right, top and bottom line just inside the rectangle; where two meet, the later one is seen.
+    void Draw(CDC& dc, const CRect& rc) const;
 };

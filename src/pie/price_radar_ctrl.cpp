@@ -1,7 +1,10 @@
+// The price radar's life, items and settings.
 #include "price_radar_ctrl.h"
 
-#include "../foundation/control_window.h"
-#include "../foundation/text_copy.h"
+#include <cmath>
+
+#include "foundation/control_window.h"
+#include "foundation/text_copy.h"
 
 BEGIN_MESSAGE_MAP(CPriceRadarCtrl, CWnd)
 ON_WM_PAINT()
@@ -19,10 +22,6 @@ int CPriceRadarCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
 
 BOOL CPriceRadarCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-void CPriceRadarCtrl::OnPaint() {
-    PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
-}
-
 BOOL CPriceRadarCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CPriceRadarCtrl::OnSize(UINT nType, int cx, int cy) {
@@ -31,14 +30,17 @@ void CPriceRadarCtrl::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CPriceRadarCtrl::Init() {
-    for (auto& arrItems : m_arrItems) arrItems.RemoveAll();
+    for (ItemArray& arrItems : m_arrItems) arrItems.RemoveAll();
+    m_column = {};
+    m_nRadius = 0;
     StoreAndRepaint(*this, m_nSelectId, -1);
 }
 
 int CPriceRadarCtrl::SetData(tagPriceRadarItemData data) {
-    const bool bAmount = data.dValue > 0;  // false for NaN as well
-    if (!bAmount || data.nIndex < 0 || data.nIndex >= k_nColumns) return FALSE;
+    const bool bAmount = data.dValue > 0 && std::isfinite(data.dValue);
+    if (!bAmount || data.nIndex < 0 || data.nIndex >= k_nPriceColumns) return FALSE;
     m_arrItems[data.nIndex].Add(data);
+    m_bNewPicture = true;
     return TRUE;
 }
 

@@ -1,4 +1,4 @@
-// Wheel, pies, price radar and histogram.
+// Wheel and histogram.
 #include <cstdio>
 #include <string>
 
@@ -67,57 +67,6 @@ void WheelClicked(Stage& stage) {
     sector.value = static_cast<float>(Number(dice, -30, 30));
     if (Changes(dice)) wheel.SetData(dice.Between(0, 5), sector);
     host.Take(stage);
-}
-
-void MoneyFlowPies(Stage& stage) {
-    TakeControl<CProxy_PieChartCtrl>(stage, [&](CProxy_PieChartCtrl& pies) {
-        Dice& dice = stage.dice;
-        pies.Init();
-        for (int i = dice.OneIn(6) ? dice.Between(0, 2) : dice.Between(4, 30); i > 0; --i) {
-            tagPieChartData item{};
-            item.dValue = Number(dice, 0, 8000);
-            Set(item.szName, CString(Numbered(dice.Of(kSectors), i).c_str()));
-            item.nId = i, item.nType = dice.Between(0, 1);
-            pies.SetData(item);
-        }
-        std::string top = TitleText(dice), bottom = TitleText(dice);
-        if (Changes(dice)) pies.SetSumTipTitleTopText(top.data());
-        if (Changes(dice)) pies.SetSumTipTitleBottomText(bottom.data());
-        if (Changes(dice)) pies.SetBackColor(dice.Colour());
-        if (Changes(dice)) pies.SetCircleBackgroundColor(dice.Colour());
-        if (Changes(dice)) pies.SetPieBorderColor(dice.Colour());
-        if (Changes(dice)) pies.SetSeparateLineColor(dice.Colour());
-        if (Changes(dice)) pies.SetSumTipTitleColor(dice.Colour());
-        if (Changes(dice)) pies.SetSumTipContxtColor(dice.Colour());
-        pies.Play();
-    });
-}
-
-void PriceRadar(Stage& stage) {
-    TakeControl<CProxy_PriceRadarCtrl>(stage, [&](CProxy_PriceRadarCtrl& radar) {
-        Dice& dice = stage.dice;
-        radar.Init();
-        for (int i = dice.Between(0, 60); i > 0; --i) {
-            tagPriceRadarItemData item{};
-            item.dValue = Number(dice, 0, 900) + 0.5;
-            item.nId = i, item.nType = dice.Between(0, 1), item.nIndex = dice.Between(0, 7);
-            item.nDate = 20150601 + 7 - item.nIndex;
-            radar.SetData(item);
-        }
-        std::string title = TitleText(dice);
-        if (Changes(dice)) radar.SetTitleText(title.data());
-        if (Changes(dice)) radar.SetTitleFontColor(dice.Colour());
-        if (Changes(dice)) radar.SetTitleBackColor(dice.Colour());
-        if (Changes(dice)) radar.SetBackColor(dice.Colour());
-        if (Changes(dice)) radar.SetLeftBorderColor(dice.Colour()), radar.SetTopBorderColor(dice.Colour());
-        if (Changes(dice))
-            radar.SetRightBorderColor(dice.Colour()), radar.SetBottomBorderColor(dice.Colour());
-        if (Changes(dice)) radar.SetTitleFontSize(dice.Between(10, 24));
-        if (Changes(dice)) radar.SetTitleHeight(dice.Between(10, 50));
-        if (Changes(dice)) radar.SetLabelHeight(dice.Between(10, 40));
-        if (Changes(dice)) radar.SetSelectId(dice.Between(0, 40));
-        radar.Play();
-    });
 }
 
 void Histogram(Stage& stage) {

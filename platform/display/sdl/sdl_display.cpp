@@ -3,6 +3,7 @@
 #include <SDL2/SDL.h>
 
 #include <algorithm>
+#include <deque>
 #include <map>
 
 #include "display/sdl/sdl_events.h"
@@ -66,6 +67,7 @@ class SdlDisplay final : public Display {
 public:
     ~SdlDisplay() override {
         for (auto& [id, window] : m_windows) SDL_DestroyWindow(window);
+        for (SDL_Window* window : m_closed) SDL_DestroyWindow(window);
         if (m_cursor) SDL_FreeCursor(m_cursor);
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
     }
@@ -93,7 +95,7 @@ public:
         if (!window) return;
         const bool hadFocus = SDL_GetKeyboardFocus() == window;
         SDL_Window* owner = Find(m_owners[id]);
-        SDL_DestroyWindow(window);
+        Retire(window);
         m_windows.erase(id);
         m_owners.erase(id);
         if (hadFocus && owner) SDL_SetWindowInputFocus(owner);
@@ -178,7 +180,19 @@ private:
         return found == m_windows.end() ? nullptr : found->second;
     }
 
+    /// Hides a window for good. Its end comes a few closed windows later: the desktop still sends it the
+    /// release of a press that closed it, and SDL on X11 wakes itself by a message to the newest window.
+    void Retire(SDL_Window* window) {
+        constexpr std::size_t kKept = 3;
+        SDL_HideWindow(window);
+        m_closed.push_back(window);
+        if (m_closed.size() <= kKept) return;
+        SDL_DestroyWindow(m_closed.front());
+        m_closed.pop_front();
+    }
+
     std::map<WindowId, SDL_Window*> m_windows;
+    std::deque<SDL_Window*> m_closed;  ///< Hidden, the oldest first.
     std::map<WindowId, WindowId> m_owners;
     SDL_Cursor* m_cursor = nullptr;
 };

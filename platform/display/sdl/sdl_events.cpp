@@ -2,6 +2,8 @@
 
 #include <SDL2/SDL.h>
 
+#include <string_view>
+
 #include "display/sdl/sdl_keys.h"
 
 namespace tavlon::display {
@@ -14,6 +16,15 @@ void PlacePointer(Uint32 window, int x, int y, Event& event) {
     if (SDL_Window* target = SDL_GetWindowFromID(window)) SDL_GetWindowPosition(target, &left, &top);
     event.x = left + x;
     event.y = top + y;
+}
+
+/// A move's own position may belong to another window than the event names while the mouse is being captured.
+void PlaceMovedPointer(const SDL_MouseMotionEvent& raw, Event& event) {
+    const char* driver = SDL_GetCurrentVideoDriver();
+    if (driver && std::string_view(driver) == "x11")
+        SDL_GetGlobalMouseState(&event.x, &event.y);
+    else
+        PlacePointer(raw.windowID, raw.x, raw.y, event);
 }
 
 bool TranslateWindowEvent(const SDL_WindowEvent& raw, Event& event) {
@@ -98,7 +109,7 @@ bool TranslateSdlEvent(const SDL_Event& raw, Event& event) {
         case SDL_MOUSEMOTION:
             event.kind = EventKind::PointerMove;
             event.window = raw.motion.windowID;
-            PlacePointer(raw.motion.windowID, raw.motion.x, raw.motion.y, event);
+            PlaceMovedPointer(raw.motion, event);
             return true;
         case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:

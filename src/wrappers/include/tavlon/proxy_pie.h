@@ -9,6 +9,14 @@ class CPieChartCtrl;
 class CPriceRadarCtrl;
 
 /// Money-flow pies: inflow above, outflow below, with an information tip for the selected item.
+///
+/// Units: amounts in the host's unit of money; from 10 000 on they are written in 万 and 亿. The two radii
+/// are in proportion to the groups' totals and make up the largest radius that fits a half. Slices run
+/// clockwise from twelve in the order of the calls.
+///
+/// User: a press on a slice selects its item in both pies and opens the tip at the upper right. The tip takes
+/// the mouse: it is dragged by a press on it; a press elsewhere closes it and is made once more, for what is
+/// under the pointer. It closes as well when another application comes to the foreground.
 class TAVLON_API CProxy_PieChartCtrl {
 public:
     CProxy_PieChartCtrl();
@@ -18,8 +26,8 @@ public:
     int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
 
     int Init();  ///< Clears items and totals, closes a shown tip, keeps the selection; TRUE. No repaint.
-    /// Appends one item. FALSE: 60 are held, the amount is negative or NaN, or the name is empty. Does not
-    /// repaint.
+    /// Appends one item. FALSE: 60 are held, the amount is negative or not finite, or the name is empty. Does
+    /// not repaint.
     int SetData(tagPieChartData data);
     /// Computes the totals of items added since the last success. FALSE when there was nothing to compute,
     /// with fewer than two items, or when one group adds up to 0. Repaints in every case.
@@ -52,7 +60,9 @@ private:
     Owned<CPieChartCtrl> m_pControl;
 };
 
-/// Price radar: up to eight dated columns of paired pies.
+/// Price radar: up to eight dated columns of paired pies, items of type 0 above, all others below. Column 0
+/// is the rightmost. Above a column stands the date of its items of type 0, below it what the upper total is
+/// over the lower. It takes no mouse and no keys.
 class TAVLON_API CProxy_PriceRadarCtrl {
 public:
     CProxy_PriceRadarCtrl();
@@ -62,7 +72,7 @@ public:
     int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
 
     void Init();  ///< Clears items and selection; repaints.
-    /// Appends one item to its column. FALSE: amount not above 0 (NaN included) or column outside 0 to 7.
+    /// Appends one item to its column. FALSE: amount not above 0 or not finite, or column outside 0 to 7.
     /// Does not repaint.
     int SetData(tagPriceRadarItemData data);
     void Play();                              ///< Repaints.
