@@ -33,5 +33,13 @@ int main(int argc, char** argv) {
     reporter.PrintRatio("price radar, full repaint : copy of one frame", "PriceRadar/FullRepaint",
                         "Pies/CopyOfOneFrame");
     reporter.PrintRatio("anti-aliased outline : copy of one frame", "Pies/Outline", "Pies/CopyOfOneFrame");
+    reporter.PrintRatio("risk gauge, full repaint : copy of one frame", "RiskGauge/FullRepaint",
+                        "Gauges/CopyOfOneFrame");
+    reporter.PrintRatio("position bar, full repaint : copy of one frame", "PositionBar/FullRepaint",
+                        "Gauges/CopyOfOneFrame");
+    reporter.PrintRatio("ladder, full repaint : copy of one frame", "Ladder/FullRepaint",
+                        "Gauges/CopyOfOneFrame");
+    reporter.PrintRatio("histogram, full repaint : copy of one frame", "Histogram/FullRepaint",
+                        "Gauges/CopyOfOneFrame");
     return 0;
 }

@@ -20,5 +20,8 @@ void CopyText(char (&szField)[nSize], const char* pszText) {
     std::memcpy(szField, szCopy, nSize);
 }
 
+/// As much of the text as fits into that many bytes without cutting a two-byte character.
+std::string_view WholeCharacters(std::string_view text, std::size_t nMaxBytes);
+
 /// Byte by byte, 'A' to 'Z' taken as 'a' to 'z'.
 bool EqualIgnoringCase(std::string_view text1, std::string_view text2);

@@ -49,6 +49,9 @@ void DrawValueScale(CDC* pDC, COLORREF textColour, int divisions, int left, int 
 void DrawAxisNumberLeft(CDC* pDC, COLORREF textColour, int divisions, int x1, int y1, int x2, int y2,
                         double firstValue, double lastValue, int drawFirst, int drawLast, int decimals);
 
+/// Makes the title face in that cell height, in pixels when nothing is scaled.
+BOOL CreateTitleFont(CFont& font, int height, int bold);
+
 /// Text in the title face on a transparent background; `format` are DrawText flags. A null text draws
 /// nothing.
 void DrawTextInRect(CDC* pDC, const char* text, CRect rect, int height, COLORREF colour, int bold,

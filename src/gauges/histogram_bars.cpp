@@ -1,6 +1,7 @@
 #include "histogram_bars.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 void HistogramBars::Clear() {
@@ -10,8 +11,8 @@ void HistogramBars::Clear() {
 
 BOOL HistogramBars::Add(tagHistogramData& data) {
     constexpr int k_nMaxBars = 20;
-    const bool bPositive = data.dXValue > 0 && data.dYValue > 0;
-    if (m_arrData.GetSize() >= k_nMaxBars || !bPositive) return FALSE;
+    const auto IsPositive = [](double d) { return d > 0 && std::isfinite(d); };
+    if (Count() >= k_nMaxBars || !IsPositive(data.dXValue) || !IsPositive(data.dYValue)) return FALSE;
     m_arrData.Add(data);
     m_bNeedSort = 1;
     return TRUE;
@@ -19,7 +20,7 @@ BOOL HistogramBars::Add(tagHistogramData& data) {
 
 void HistogramBars::SortIfNeeded() {
     if (!m_bNeedSort) return;
-    const int nCount = static_cast<int>(m_arrData.GetSize());
+    const int nCount = Count();
     m_dMaxValue = 0.0;
     for (int i = 0; i < nCount; ++i) {
         // An exchange sort: which of several equal bars comes first depends on it.
@@ -34,7 +35,7 @@ void HistogramBars::SortIfNeeded() {
 
 BOOL HistogramBars::Select(int nId) {
     BOOL bFound = FALSE;
-    for (int i = 0; i < m_arrData.GetSize(); ++i) {
+    for (int i = 0; i < Count(); ++i) {
         if (m_arrData[i].nId != nId) continue;
         m_nSelIndex = i;
         bFound = TRUE;

@@ -1,7 +1,8 @@
+// The histogram's life and settings.
 #include "histogram_ctrl.h"
 
-#include "../foundation/control_window.h"
-#include "../foundation/text_copy.h"
+#include "foundation/control_window.h"
+#include "foundation/text_copy.h"
 
 BEGIN_MESSAGE_MAP(myHistogramCtrl, CWnd)
 ON_WM_PAINT()
@@ -24,10 +25,6 @@ int myHistogramCtrl::Create(CWnd* pParent, CRect rect, UINT nID) {
 
 BOOL myHistogramCtrl::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
 
-void myHistogramCtrl::OnPaint() {
-    PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
-}
-
 BOOL myHistogramCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void myHistogramCtrl::OnSize(UINT nType, int cx, int cy) {
@@ -37,6 +34,13 @@ void myHistogramCtrl::OnSize(UINT nType, int cx, int cy) {
 
 int myHistogramCtrl::Init() {
     m_bars.Clear();
+    m_bNewPicture = true;
+    return TRUE;
+}
+
+int myHistogramCtrl::SetData(tagHistogramData& data) {
+    if (!m_bars.Add(data)) return FALSE;
+    m_bNewPicture = true;
     return TRUE;
 }
 

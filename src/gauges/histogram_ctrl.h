@@ -1,9 +1,10 @@
 #pragma once
 
 #include "histogram_bars.h"
+#include "histogram_plot.h"
 
-/// Histogram: keeps the bars, axis titles and colours. The exported contract is CProxy_HistogramCtrl.
-/// Paints its background only so far.
+/// Histogram: up to twenty bars over a grid, with a value scale. The exported contract is
+/// CProxy_HistogramCtrl.
 class myHistogramCtrl : public CWnd {
 public:
     myHistogramCtrl();
@@ -11,7 +12,7 @@ public:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
     int Init();
-    int SetData(tagHistogramData& data) { return m_bars.Add(data); }
+    int SetData(tagHistogramData& data);
     int Play();
     int SetIndex(int nId);
     void SetCoordinateShaftColor(COLORREF clr);
@@ -31,9 +32,20 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // Paint.
+    void DrawHistogram(CDC& dc, const CRect& rcClient);
+    void DrawBackground(CDC& dc, const CRect& rcClient);
+    void DrawGrid(CDC& dc, const HistogramPlot& plot);
+    void DrawAxes(CDC& dc, const HistogramPlot& plot);
+    void DrawBarLabels(CDC& dc, const HistogramPlot& plot);
+    void DrawTitles(CDC& dc, const HistogramPlot& plot);
+    void DrawBars(CDC& dc, const HistogramPlot& plot);
+
     COLORREF m_clrBack = RGB(0, 0, 0);
     COLORREF m_clrGird = RGB(63, 63, 63);
     COLORREF m_clrCoordinateShaft = RGB(182, 0, 0);
+    COLORREF m_clrBar = RGB(192, 192, 192);
+    COLORREF m_clrSelBar = RGB(5, 54, 159);
     COLORREF m_clrCoordinateShaftFont = RGB(192, 192, 192);
     COLORREF m_clrCoordinateShaftTitle = RGB(192, 192, 192);
     COLORREF m_clrBorder = RGB(182, 0, 0);
@@ -41,5 +53,6 @@ private:
     char m_szYTitle[100];
     char m_szXTitle[100];
     HistogramBars m_bars;
-    int m_nSelId = -1;  ///< Last id given to SetIndex.
+    bool m_bNewPicture = false;  ///< Bars changed since the last paint.
+    int m_nSelId = -1;           ///< Last id given to SetIndex.
 };

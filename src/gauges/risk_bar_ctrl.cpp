@@ -1,51 +1,33 @@
 #include "risk_bar_ctrl.h"
 
-#include "../foundation/control_window.h"
 #include "numbered.h"
 
 IMPLEMENT_DYNAMIC(TavlonRiskBar, CWnd)
 
-BEGIN_MESSAGE_MAP(TavlonRiskBar, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_SIZE()
-END_MESSAGE_MAP()
-
 namespace {
 constexpr ControlNames k_names{"__TavlonRiskBar__", "__TavlonRiskBar__"};
-}
+constexpr int k_nLeftMargin = 20;
+constexpr int k_nRightMargin = 30;
+}  // namespace
 
-BOOL TavlonRiskBar::PreCreateWindow(CREATESTRUCT& cs) { return UseControlClass(k_names, cs); }
-
-BOOL TavlonRiskBar::PreTranslateMessage(MSG* pMsg) { return PreTranslateTakingFocus(*this, pMsg); }
-
-void TavlonRiskBar::OnPaint() {
-    PaintOffScreen(*this, [this](CDC& dc, const CRect& rcClient) { dc.FillSolidRect(rcClient, m_clrBack); });
-}
-
-BOOL TavlonRiskBar::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void TavlonRiskBar::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
-    Invalidate();
-}
-
-void TavlonRiskBar::ReDraw() { Invalidate(); }
-
-int TavlonRiskBar::Create(CWnd* pParent, CRect rect, UINT nID) {
-    if (!CreateControlWindow(*this, k_names, pParent, rect, nID)) return FALSE;
-    m_hParent = pParent->GetSafeHwnd();
-    m_nID = nID;
-    return TRUE;
+TavlonRiskBar::TavlonRiskBar() : CGaugeCtrl(k_names) {
+    m_title.strText = "大盘风险分析";
+    m_strExplain =
+        "   该刻度从左至右，标识大盘的风险程序，绿色为风险度低，红色为风险度高区域，"
+        "两个箭头分别代表中长期风险区间和短期风险区间，"
+        "投资者可按照自己的投资风险选取适合自己的操作方式";
 }
 
 void TavlonRiskBar::SetData(int nValue, int nWhich) {
     if (nValue >= 0 && nValue <= 100) StoreNumbered(m_nRisk, nWhich, nValue);
 }
 
-void TavlonRiskBar::SetColor(COLORREF clrBack, COLORREF clrText) {
-    m_clrBack = clrBack;
-    m_clrExplain = clrText;
-}
-
 void TavlonRiskBar::SetLineColor(COLORREF clr, int nWhich) { StoreNumbered(m_clrArrow, nWhich, clr); }
+
+void TavlonRiskBar::LayOut(const CRect& rcClient) {
+    const int nFifth = rcClient.Height() / 5;
+    m_rcTitle = CRect(rcClient.left + 3, rcClient.top + 5, rcClient.right, rcClient.top + 5 + nFifth);
+    m_rcScale = CRect(rcClient.left + k_nLeftMargin, m_rcTitle.bottom, rcClient.right - k_nRightMargin,
+                      m_rcTitle.bottom + 2 * nFifth);
+    m_rcExplain = CRect(m_rcScale.left, m_rcScale.bottom + nFifth / 2, m_rcScale.right, rcClient.bottom);
+}

@@ -1,5 +1,4 @@
-// Wheel and histogram.
-#include <cstdio>
+// The wheel.
 #include <string>
 
 #include "scenes/control_scenes.h"
@@ -12,16 +11,6 @@ constexpr const char* kSectors[] = {"银行",   "房地产", "酿酒食品", "�
                                     "半导体", "新能源", "医药",     "电力",     "互联网金融"};
 
 std::string Numbered(const char* text, int number) { return text + std::to_string(number); }
-
-/// The text as the wrappers that ask for a char pointer want it.
-std::string TitleText(Dice& dice) {
-    const CString title = AnyTitle(dice);
-    return static_cast<const char*>(title);
-}
-
-}  // namespace
-
-namespace {
 
 void FeedWheel(CProxy_BR& wheel, Dice& dice) {
     CArray<tagmyBRData, tagmyBRData&> sectors;
@@ -67,30 +56,6 @@ void WheelClicked(Stage& stage) {
     sector.value = static_cast<float>(Number(dice, -30, 30));
     if (Changes(dice)) wheel.SetData(dice.Between(0, 5), sector);
     host.Take(stage);
-}
-
-void Histogram(Stage& stage) {
-    TakeControl<CProxy_HistogramCtrl>(stage, [&](CProxy_HistogramCtrl& chart) {
-        Dice& dice = stage.dice;
-        chart.Init();
-        const int most = dice.Of({2, 50, 9000});
-        for (int i = dice.Between(0, 21); i > 0; --i) {
-            tagHistogramData bar{};
-            bar.dXValue = Number(dice, 0, 300) + 0.5, bar.dYValue = Number(dice, 0, most) + 0.5, bar.nId = i;
-            chart.SetData(bar);
-        }
-        chart.Play();
-        if (Changes(dice)) chart.SetIndex(dice.Between(0, 20));
-        if (Changes(dice)) chart.SetCoordinateShaftColor(dice.Colour());
-        if (Changes(dice)) chart.SetGirdColor(dice.Colour());
-        if (Changes(dice)) chart.SetBackColor(dice.Colour());
-        if (Changes(dice)) chart.SetCoordinateShaftFontColor(dice.Colour());
-        if (Changes(dice)) chart.SetCoordinateShaftTitleColor(dice.Colour());
-        chart.DisplayGird(!dice.OneIn(4));
-        std::string x = TitleText(dice), y = TitleText(dice);
-        if (Changes(dice)) chart.SetXTitle(x.data());
-        if (Changes(dice)) chart.SetYTitle(y.data());
-    });
 }
 
 }  // namespace scenes::controls

@@ -158,8 +158,8 @@ TEST(HistogramData, RefusalsAndSelection) {
         return data;
     };
     CProxy_HistogramCtrl histogram;
-    for (tagHistogramData bad :
-         {Bar(0, 1, 1), Bar(1, 0, 1), Bar(-1, 1, 1), Bar(1, -1, 1), Bar(k_dNaN, 1, 1), Bar(1, k_dNaN, 1)}) {
+    for (tagHistogramData bad : {Bar(0, 1, 1), Bar(1, 0, 1), Bar(-1, 1, 1), Bar(1, -1, 1), Bar(k_dNaN, 1, 1),
+                                 Bar(1, k_dNaN, 1), Bar(k_dInfinity, 1, 1), Bar(1, k_dInfinity, 1)}) {
         EXPECT_EQ(FALSE, histogram.SetData(bad)) << bad.dXValue << ' ' << bad.dYValue;
     }
     EXPECT_EQ(FALSE, histogram.SetIndex(1)) << "nothing was stored";

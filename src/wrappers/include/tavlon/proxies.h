@@ -16,9 +16,6 @@
 /// "stores" means that the value shows at the next paint that something else causes. Colours are 0x00BBGGRR.
 /// Texts are code page 936 bytes; a null char pointer is an empty text.
 ///
-/// Complete so far: all but the four gauges (risk gauge, position bar, ladder, histogram), which keep their
-/// data and draw their background only.
-///
 /// Thread: use from the thread that created the window.
 
 #include <tavlon/proxy_gauges.h>

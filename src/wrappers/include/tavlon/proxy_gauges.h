@@ -10,7 +10,9 @@ class CPrssureSupportCtrl;
 class TavlonRiskBar;
 class myHistogramCtrl;
 
-/// Market risk gauge: two arrows on a scale of five steps. Setters store; call ReDraw after a batch.
+/// Market risk gauge: two arrows on a scale of five steps, green for little risk on the left to red on the
+/// right, and a paragraph that explains them. Setters store; call ReDraw after a batch. A title of more than
+/// 63 bytes is shortened on a whole character.
 class TAVLON_API CProxy_RiskBarCtrl {
 public:
     CProxy_RiskBarCtrl();
@@ -35,8 +37,9 @@ private:
     Owned<TavlonRiskBar> m_pControl;
 };
 
-/// Position bar: how much of their capital three investor camps hold. Setters store; call ReDraw after a
-/// batch.
+/// Position bar: how much of their capital three investor camps hold, as cylinders filled to their
+/// percentages. Setters store; call ReDraw after a batch. A title of more than 63 bytes is shortened on a
+/// whole character.
 class TAVLON_API CProxy_PositionBarCtrl {
 public:
     CProxy_PositionBarCtrl();
@@ -62,8 +65,8 @@ private:
 };
 
 /// Pressure and support ladder: five price levels of one stock, 1 medium-term pressure, 2 short-term
-/// pressure, 3 current price, 4 short-term support, 5 medium-term support. Setters store; call ReDraw after a
-/// batch.
+/// pressure, 3 current price, 4 short-term support, 5 medium-term support. The largest price has the longest
+/// bar; while any price is 0 there are no bars, only figures. Setters store; call ReDraw after a batch.
 class TAVLON_API CProxy_PrssureSupportCtrl {
 public:
     CProxy_PrssureSupportCtrl();
@@ -88,7 +91,9 @@ private:
     Owned<CPrssureSupportCtrl> m_pControl;
 };
 
-/// Histogram of up to 20 bars.
+/// Histogram of up to 20 bars, which stand in the order of dXValue and are as high as their dYValue. Under
+/// every second one stands its dXValue. In less than 81 by 81 pixels only background and grid are drawn.
+/// After Init the scale keeps its last maximum until there are bars again.
 class TAVLON_API CProxy_HistogramCtrl {
 public:
     CProxy_HistogramCtrl();
@@ -98,7 +103,7 @@ public:
     int Create(CWnd* pParent, CRect rect, UINT nID);  ///< See proxies.h.
 
     int Init();  ///< Removes all bars and the highlight; TRUE. Does not repaint.
-    /// Appends one bar. FALSE: 20 are held, or a value is not above 0 (NaN included). Does not repaint.
+    /// Appends one bar. FALSE: 20 are held, or a value is not above 0 or not finite. Does not repaint.
     int SetData(tagHistogramData& data);
     int Play();  ///< Sorts the bars by dXValue; repaints; TRUE.
     /// Highlights the last bar with that id, by its present position: call Play first. FALSE when there is

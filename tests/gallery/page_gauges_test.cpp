@@ -1,0 +1,159 @@
+// The gauges' pages on small files of their own.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "error_of.h"
+#include "gallery/pages.h"
+#include "scatter/radar_window.h"
+#include "wrappers/host.h"
+
+using namespace gallery;
+
+namespace {
+
+using Maker = std::unique_ptr<Page> (*)(const PageSettings&);
+
+constexpr UINT kChartId = 100, kHistogramId = 103;
+constexpr COLORREF kHighlight = RGB(5, 54, 159), kBar = RGB(192, 192, 192);
+
+/// Three orders of 0.2, one of 0.4 and two of 9 million yuan: on the histogram's own page three bars.
+constexpr char kOrders[] = "amount_yuan\n250000\n9000000\n210000\n450000\n9000000\n299999\n";
+constexpr int kBars = 3, kFullest = 0;
+
+std::string Closes(int nDays) {
+    std::string rows = "date,close\n";
+    for (int n = 0; n < nDays; ++n)
+        rows += std::to_string(1000 + n) + "," + std::to_string(n == 0 ? 900 : 1000 + n) + "\n";
+    return rows;
+}
+
+class GaugePagesTest : public testing::Test {
+protected:
+    void SetUp() override {
+        std::filesystem::create_directories(m_settings.dataDir);
+        Write("sh_index_2025-09-22.csv", Closes(100));
+        Write("main_flow_2025-09-22.csv",
+              "code,name,market,price,change_pct,main_net_yuan,amount_yuan,super_large_net_pct,"
+              "large_net_pct,medium_net_pct,small_net_pct\n"
+              "000001,a,SZ,1,0,,,,,,\n000002,b,SZ,1,2,,,,,,\n");
+        Write("minutes_2019-02-01.csv",
+              "code,name,prev_close,time,price,volume_lots,amount_yuan,large_net_yuan\n"
+              "600004,a,10,09:30,12,1,1,0\n600004,a,10,09:31,10,1,1,0\n");
+        Write("large_orders_2019-02-01.csv", kOrders);
+    }
+    void TearDown() override { std::filesystem::remove_all(m_settings.dataDir); }
+
+    void Write(const char* pszName, const std::string& text) const {
+        std::ofstream(m_settings.dataDir / pszName, std::ios::binary) << text;
+    }
+
+    std::unique_ptr<Page> Open(Maker pfnMake, const CRect& rc = CRect(0, 0, 400, 300)) {
+        std::unique_ptr<Page> pPage = pfnMake(m_settings);
+        EXPECT_TRUE(pPage->CreateOn(m_host, rc));
+        HostWindow::Pump();
+        return pPage;
+    }
+
+    static Shot Look(const Page& page, UINT nId) {
+        const HWND hWnd = ControlIn(page, nId);
+        ::InvalidateRect(hWnd, nullptr, TRUE);
+        ::UpdateWindow(hWnd);
+        CRect rc;
+        ::GetClientRect(hWnd, &rc);
+        CClientDC dc(CWnd::FromHandle(hWnd));
+        return ShotOf(dc, rc.Width(), rc.Height());
+    }
+
+    PageSettings m_settings{std::filesystem::temp_directory_path() / "tavlon_gauge_pages", {}, {}};
+    HostWindow m_host;
+};
+
+/// Which bar of a histogram with kBars bars is highlighted; -1 for none.
+int Highlighted(const Shot& shot) {
+    const int nGap = (shot.cx - 75) / (3 * kBars + 1), y = shot.cy - 20 - 2;
+    int nFound = -1;
+    for (int n = 0; n < kBars; ++n) {
+        const COLORREF clr = shot.At(50 + (n + 1) * nGap + 2 * n * nGap + nGap, y);
+        if (clr == kHighlight) nFound = n;
+        EXPECT_TRUE(clr == kHighlight || clr == kBar) << n;
+    }
+    return nFound;
+}
+
+bool Shows(const Shot& shot, COLORREF clr) {
+    for (int y = 0; y < shot.cy; ++y)
+        for (int x = 0; x < shot.cx; ++x)
+            if (shot.At(x, y) == clr) return true;
+    return false;
+}
+
+}  // namespace
+
+TEST_F(GaugePagesTest, ArrowKeysMoveTheHighlight) {
+    const auto pPage = Open(MakeHistogramPage);
+    EXPECT_EQ(kFullest, Highlighted(Look(*pPage, kChartId)));
+    struct Case {
+        UINT nKey;
+        int nWant;
+    };
+    for (const Case& c :
+         {Case{VK_LEFT, 0}, Case{VK_RIGHT, 1}, Case{VK_RIGHT, 2}, Case{VK_RIGHT, 2}, Case{VK_LEFT, 1}}) {
+        MSG msg{};
+        msg.hwnd = ControlIn(*pPage, kChartId), msg.message = WM_KEYDOWN, msg.wParam = c.nKey;
+        EXPECT_TRUE(AfxPreTranslateMessage(&msg));
+        EXPECT_EQ(c.nWant, Highlighted(Look(*pPage, kChartId)));
+    }
+}
+
+/// As large as on the common page, a gauge of its own page is the same picture.
+TEST_F(GaugePagesTest, ThePagesShowTheSameGauges) {
+    const auto pAll = Open(MakeGaugesPage);
+    UINT nId = kChartId;
+    for (const Maker pfnMake : {MakeRiskPage, MakePositionPage, MakeLadderPage}) {
+        SCOPED_TRACE(nId);
+        const Shot inRow = Look(*pAll, nId++);
+        const auto pAlone = Open(pfnMake);
+        ::SetWindowPos(ControlIn(*pAlone, kChartId), nullptr, 0, 0, inRow.cx, inRow.cy, SWP_NOZORDER);
+        EXPECT_EQ(CPoint(-1, -1), inRow.FirstDifference(Look(*pAlone, kChartId)));
+    }
+    EXPECT_EQ(kFullest, Highlighted(Look(*pAll, kHistogramId)));
+}
+
+TEST_F(GaugePagesTest, TheFiguresReachTheGauges) {
+    struct Case {
+        const char* pszName;
+        Maker pfnMake;
+        COLORREF clr;
+    };
+    for (const Case& c :
+         {Case{"long-term arrow", MakeRiskPage, RGB(180, 0, 0)},
+          Case{"short-term arrow", MakeRiskPage, RGB(0, 180, 0)},
+          Case{"aggressive cylinder", MakePositionPage, RGB(180, 0, 0)},
+          Case{"steady cylinder", MakePositionPage, RGB(0, 180, 0)},
+          Case{"conservative cylinder", MakePositionPage, RGB(0, 0, 180)},
+          Case{"pressure", MakeLadderPage, RGB(86, 196, 2)}, Case{"price", MakeLadderPage, RGB(244, 208, 55)},
+          Case{"support", MakeLadderPage, RGB(59, 144, 255)}}) {
+        SCOPED_TRACE(c.pszName);
+        EXPECT_TRUE(Shows(Look(*Open(c.pfnMake), kChartId), c.clr));
+    }
+}
+
+TEST_F(GaugePagesTest, AnySizeWillDo) {
+    for (const CRect& rc : {CRect(0, 0, 1, 1), CRect(0, 0, 97, 61), CRect(0, 0, 0, 0), CRect(0, 0, 401, 301)})
+        for (const Maker pfnMake :
+             {MakeGaugesPage, MakeRiskPage, MakePositionPage, MakeLadderPage, MakeHistogramPage})
+            Open(pfnMake, rc);
+}
+
+TEST_F(GaugePagesTest, FilesThatSayTooLittleAreRefused) {
+    const auto make = [this](Maker pfnMake) { return ErrorOf([&] { pfnMake(m_settings); }); };
+    Write("sh_index_2025-09-22.csv", Closes(99));
+    EXPECT_TRUE(make(MakeRiskPage).ends_with("sh_index_2025-09-22.csv: fewer than 100 days"));
+    Write("large_orders_2019-02-01.csv", "amount_yuan\n199999\n");
+    EXPECT_TRUE(make(MakeHistogramPage).ends_with("large_orders_2019-02-01.csv: no large orders"));
+    Write(
+        "minutes_2019-02-01.csv",
+        "code,name,prev_close,time,price,volume_lots,amount_yuan,large_net_yuan\n000001,a,1,09:30,1,1,1,0\n");
+    EXPECT_TRUE(make(MakeLadderPage).ends_with("minutes_2019-02-01.csv: no minutes of 600004"));
+}
