@@ -92,9 +92,10 @@ void CPrssureSupportCtrl::DrawNames(CDC& dc) {
     const int nTop = m_rcClient.top, nBottom = m_rcClient.bottom;
     const float fUpper = nTop + 2 * fQuarter, fMiddle = nBottom - 2 * fQuarter, fLower = nBottom - fQuarter;
     const double dLine = 1.2 * szFigure.cy;
+    const int nHalfLine = szFigure.cy / 2;
     const LevelRow rows[] = {{0, nTop + fQuarter, fUpper, k_nUpperFormat},
                              {1, nTop + fQuarter + dLine, fUpper, k_nUpperFormat},
-                             {2, fMiddle - szFigure.cy / 2, fLower, k_nUpperFormat},
+                             {2, fMiddle - nHalfLine, fLower, k_nUpperFormat},
                              {4, fMiddle, fLower, k_nLowerFormat},
                              {3, fMiddle, fLower - dLine, k_nLowerFormat}};
     for (const LevelRow& row : rows) {
