@@ -5,6 +5,7 @@
 
 #include "error_of.h"
 #include "gallery/pages.h"
+#include "gallery/scratch_dir.h"
 #include "scatter/radar_window.h"
 #include "wrappers/host.h"
 
@@ -65,7 +66,7 @@ protected:
         return ShotOf(dc, rc.Width(), rc.Height());
     }
 
-    PageSettings m_settings{std::filesystem::temp_directory_path() / "tavlon_gauge_pages", {}, {}};
+    PageSettings m_settings{ScratchDir(), {}, {}};
     HostWindow m_host;
 };
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "gallery/pages.h"
+#include "gallery/scratch_dir.h"
 #include "wrappers/host.h"
 
 using namespace gallery;
@@ -70,7 +71,7 @@ void Press(const Page& page, UINT nKey) {
 class IndustriesPageTest : public testing::Test {
 protected:
     void SetUp() override {
-        m_settings.dataDir = std::filesystem::temp_directory_path() / "tavlon_industries_page";
+        m_settings.dataDir = ScratchDir();
         std::filesystem::create_directories(m_settings.dataDir);
         std::ofstream(m_settings.dataDir / "industry_flow_2026-08.csv", std::ios::binary) << kRows;
     }

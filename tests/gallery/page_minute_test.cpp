@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "gallery/pages.h"
+#include "gallery/scratch_dir.h"
 #include "scatter/radar_window.h"
 #include "wrappers/host.h"
 
@@ -25,7 +26,7 @@ constexpr char kRows[] =
 class MinutePageTest : public testing::Test {
 protected:
     void SetUp() override {
-        m_dir = std::filesystem::temp_directory_path() / "tavlon_minute_page";
+        m_dir = ScratchDir();
         std::filesystem::create_directories(m_dir);
         std::ofstream(m_dir / "minutes_2019-02-01.csv", std::ios::binary) << kRows;
         Open(std::nullopt);
