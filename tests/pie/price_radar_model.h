@@ -124,7 +124,9 @@ inline void PriceRadarModel::ApplyTo(CProxy_PriceRadarCtrl& radar) const {
     void (T::*const setters[])(COLORREF) = {
         &T::SetBackColor,        &T::SetTitleFontColor, &T::SetTitleBackColor,   &T::SetLeftBorderColor,
         &T::SetRightBorderColor, &T::SetTopBorderColor, &T::SetBottomBorderColor};
-    for (int i = 0; i < Colours; ++i) (radar.*setters[i])(clr[i]);
+    const COLORREF* pclr = clr;
+    // Not setters[i] in place: it raises a false alarm of GCC 12's bounds check.
+    for (auto set : setters) (radar.*set)(*pclr++);
     char szTitle[254] = "";
     strTitle.copy(szTitle, sizeof szTitle);  // may fill it: no more is read
     radar.SetTitleText(szTitle);
