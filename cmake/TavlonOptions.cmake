@@ -23,16 +23,21 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
-add_library(tavlon_options INTERFACE)
 # Text crosses every interface as code page 936 bytes, so narrow literals are compiled to them. A target with the
 # property TAVLON_PLAIN_TEXT has no such literals and may include <chrono>, whose own do not exist in that code page.
+set(TAVLON_GBK_OPTIONS -finput-charset=UTF-8 -fexec-charset=GBK)
+
+add_library(tavlon_options INTERFACE)
 target_compile_options(tavlon_options INTERFACE
-                       -finput-charset=UTF-8 $<$<NOT:$<BOOL:$<TARGET_PROPERTY:TAVLON_PLAIN_TEXT>>>:-fexec-charset=GBK>
+                       "$<$<NOT:$<BOOL:$<TARGET_PROPERTY:TAVLON_PLAIN_TEXT>>>:${TAVLON_GBK_OPTIONS}>"
                        -Wall -Wextra -Wshadow $<$<BOOL:${TAVLON_WERROR}>:-Werror>
                        -Wno-restrict)  # GCC 12 sees overlaps in std::string that are not there
 if(WIN32)
-  # The ANSI interfaces, from Windows 7 on.
-  target_compile_definitions(tavlon_options INTERFACE WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX WIN32_LEAN_AND_MEAN)
+  # Hosts need them as well, as the public headers include <windows.h>: the interfaces of Windows 7, and no macros over
+  # std::min and std::max.
+  set(TAVLON_WINDOWS_DEFINITIONS WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX)
+  set(TAVLON_WINDOWS_LIBRARIES user32 gdi32 msimg32 comctl32)
+  target_compile_definitions(tavlon_options INTERFACE ${TAVLON_WINDOWS_DEFINITIONS} WIN32_LEAN_AND_MEAN)
   # Exceptions and allocations cross the DLLs, so all of them share one run-time; it lies beside the programs.
   foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library} OUTPUT_VARIABLE path

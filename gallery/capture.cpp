@@ -1,6 +1,6 @@
 #include "capture.h"
 
-#include <picture.h>
+#include <tavlon/picture.h>
 
 #include <utility>
 #include <vector>

@@ -19,7 +19,6 @@ constexpr int kLongTerm = 1, kShortTerm = 2;  // arrows of the risk gauge
 constexpr char kFlowFile[] = "main_flow_2025-09-22.csv";
 constexpr int kLeastRises[] = {0, 1, 2};  // percent, by camp
 
-constexpr char kMinuteFile[] = "minutes_2019-02-01.csv";
 constexpr char kLadderCode[] = "600004";
 constexpr std::size_t kRecentMinutes = 60;
 
@@ -53,6 +52,27 @@ std::string Describe(const OrderClass& one) {
     const std::string strFrom = InTenThousands(one.dFrom), strOrders = std::to_string(one.nOrders) + "笔";
     if (std::isinf(one.dTo)) return strFrom + "以上，" + strOrders;
     return strFrom + "至不足" + InTenThousands(one.dTo) + "，" + strOrders;
+}
+
+std::size_t CountOf(const std::vector<OrderClass>& classes) {
+    const auto add = [](std::size_t nSum, const OrderClass& one) { return nSum + one.nOrders; };
+    return std::accumulate(classes.begin(), classes.end(), std::size_t{0}, add);
+}
+
+int FullestOf(const std::vector<OrderClass>& classes) {
+    return static_cast<int>(std::ranges::max_element(classes, {}, &OrderClass::nOrders) - classes.begin());
+}
+
+/// Takes the bars away, and the value scale with them: an empty chart would keep the one that it had before.
+void ForgetScale(CProxy_HistogramCtrl& histogram) {
+    tagHistogramData bar{.dXValue = 1, .dYValue = 1, .nId = 0};
+    histogram.Init();
+    histogram.SetData(bar);  // now Play looks for the largest bar again, even if none is left
+    histogram.Init();
+}
+
+std::string DayUntil(const Replay& replay) {
+    return "2019年2月1日" + (replay.IsUnderWay() ? "至" + TimeReached(replay) : std::string());
 }
 
 }  // namespace
@@ -110,74 +130,96 @@ std::string PositionExhibit::Brief() const {
 
 LadderExhibit::LadderExhibit(const std::filesystem::path& dataDir) {
     const std::filesystem::path file = dataDir / kMinuteFile;
-    const std::vector<MinuteDay> days = ReadMinuteDays(file);
-    const auto it = std::ranges::find(days, kLadderCode, &MinuteDay::code);
-    if (it == days.end()) throw Error(file.string() + ": no minutes of " + kLadderCode);
-    m_strStock = it->name;
-    m_levels = LevelsOf(*it, kRecentMinutes);
+    m_days = ReadMinuteDays(file);
+    const auto it = std::ranges::find(m_days, kLadderCode, &MinuteDay::code);
+    if (it == m_days.end()) throw Error(file.string() + ": no minutes of " + kLadderCode);
+    m_nUsual = static_cast<std::size_t>(it - m_days.begin());
 }
 
-void LadderExhibit::Feed(Control& ladder) const {
+const MinuteDay& LadderExhibit::DayOf(const std::string& strStock) const {
+    const auto it = std::ranges::find(m_days, strStock, &MinuteDay::code);
+    return it == m_days.end() ? m_days[m_nUsual] : *it;
+}
+
+void LadderExhibit::Feed(Control& ladder, const std::string& strStock, int nMinutes) const {
+    const PriceLevels levels = LevelsOf(FirstMinutes(DayOf(strStock), nMinutes), kRecentMinutes);
     int nLevel = 0;
-    for (const double dPrice : m_levels.FromTheTop())
-        ladder.SetPriceData(static_cast<float>(dPrice), ++nLevel);
+    for (const double dPrice : levels.FromTheTop()) ladder.SetPriceData(static_cast<float>(dPrice), ++nLevel);
     ladder.ReDraw();
 }
 
-std::vector<std::string> LadderExhibit::Notes() const {
-    return {"推算，非公布价位：" + m_strStock + "(" + kLadderCode + ")2019年2月1日各分钟末的成交价",
-            "中期压力、支撑为全天最高、最低，短期为最后" + std::to_string(kRecentMinutes) +
-                "分钟最高、最低，当前为收盘价",
+std::vector<std::string> LadderExhibit::Notes(const std::string& strStock, const Replay& replay) const {
+    const MinuteDay& day = DayOf(strStock);
+    const std::string strWhat =
+        "推算，非公布价位：" + day.name + "(" + day.code + ")2019年2月1日各分钟末的成交价";
+    const std::string strMinutes = std::to_string(kRecentMinutes) + "分钟最高、最低，当前为";
+    if (replay.IsUnderWay())
+        return {strWhat, "中期压力、支撑为开盘以来最高、最低，短期为最近" + strMinutes + "最新价",
+                InWords(replay)};
+    const PriceLevels levels = LevelsOf(day.minutes, kRecentMinutes);
+    return {strWhat, "中期压力、支撑为全天最高、最低，短期为最后" + strMinutes + "收盘价",
             "横条长度与价格成正比，所以几乎一样长：全天高低点只差" +
-                Hundredths(m_levels.dDayHigh - m_levels.dDayLow) + "元"};
+                Hundredths(levels.dDayHigh - levels.dDayLow) + "元"};
 }
 
-std::string LadderExhibit::Brief() const {
-    return "压力支撑：" + m_strStock + "全天与最后" + std::to_string(kRecentMinutes) +
-           "分钟的最高、最低(各分钟末价)，2019年2月1日，推算";
+std::string LadderExhibit::Brief(const std::string& strStock, const Replay& replay) const {
+    const bool bWhole = !replay.IsUnderWay();
+    return "压力支撑：" + DayOf(strStock).name + (bWhole ? "全天与最后" : "开盘以来与最近") +
+           std::to_string(kRecentMinutes) + "分钟的最高、最低(各分钟末价)，" + DayUntil(replay) + "，推算";
 }
 
 HistogramExhibit::HistogramExhibit(const std::filesystem::path& dataDir, Detail detail)
     : m_rule(detail == Detail::Full ? kFullRule : kHalfRule) {
     const std::filesystem::path file = dataDir / kOrderFile;
-    m_classes = CountByClass(ReadOrderAmounts(file), m_rule);
-    std::erase_if(m_classes, [](const OrderClass& one) { return one.nOrders == 0; });
-    if (m_classes.empty()) throw Error(file.string() + ": no large orders");
+    m_orders = ReadOrders(file);
+    if (CountOf(ClassesAfter(kMinutesOfDay)) == 0) throw Error(file.string() + ": no large orders");
 }
 
-void HistogramExhibit::Feed(Control& histogram) const {
-    histogram.Init();
+std::vector<OrderClass> HistogramExhibit::ClassesAfter(int nMinutes) const {
+    return CountByClass(m_orders, m_rule, nMinutes);
+}
+
+void HistogramExhibit::Feed(Control& histogram, int nMinutes, int nClass) const {
+    const std::vector<OrderClass> classes = ClassesAfter(nMinutes);
+    ForgetScale(histogram);
     char szYTitle[] = "笔数", szXTitle[] = "百万元";
     histogram.SetYTitle(szYTitle);
     histogram.SetXTitle(szXTitle);
     tagHistogramData bar{};
-    for (const OrderClass& one : m_classes) {
+    for (const OrderClass& one : classes) {
         bar.dXValue = one.dFrom / kMillion;
         bar.dYValue = static_cast<double>(one.nOrders);
-        histogram.SetData(bar);
+        if (one.nOrders > 0) histogram.SetData(bar);
         ++bar.nId;
     }
     histogram.Play();
-    histogram.SetIndex(Fullest());  // by position: the bars had to be in their order before
+    // By position: the bars had to be in their order before.
+    histogram.SetIndex(nClass == kFullest ? FullestOf(classes) : nClass);
 }
 
-int HistogramExhibit::Fullest() const {
-    return static_cast<int>(std::ranges::max_element(m_classes, {}, &OrderClass::nOrders) -
-                            m_classes.begin());
+int HistogramExhibit::NextClass(int nMinutes, int nClass, bool bAbove) const {
+    const std::vector<OrderClass> classes = ClassesAfter(nMinutes);
+    const int nFrom = nClass == kFullest ? FullestOf(classes) : nClass;
+    const int nBy = bAbove ? 1 : -1, nAll = static_cast<int>(classes.size());
+    for (int n = nFrom + nBy; n >= 0 && n < nAll; n += nBy)
+        if (classes[static_cast<std::size_t>(n)].nOrders > 0) return n;
+    return nClass;
 }
 
-std::vector<std::string> HistogramExhibit::Notes(int nClass) const {
-    const auto add = [](std::size_t nSum, const OrderClass& one) { return nSum + one.nOrders; };
-    const std::size_t nOrders = std::accumulate(m_classes.begin(), m_classes.end(), std::size_t{0}, add);
-    return {"平安银行2019年2月1日" + InTenThousands(m_rule.dFirst) + "以上的成交" + std::to_string(nOrders) +
-                "笔，每" + InTenThousands(m_rule.dWidth) + "一档，末档不设上限",
-            "柱下为档的下限。源数据约三秒汇成一笔，所以只是大单的估计",
-            "左右键换档。亮柱：" + Describe(m_classes[static_cast<std::size_t>(nClass)])};
+std::vector<std::string> HistogramExhibit::Notes(const Replay& replay, int nClass) const {
+    const std::vector<OrderClass> classes = ClassesAfter(replay.Minutes());
+    if (nClass == kFullest) nClass = FullestOf(classes);
+    return {
+        "平安银行2019年2月1日" + InTenThousands(m_rule.dFirst) + "以上的成交" +
+            std::to_string(CountOf(classes)) + "笔，每" + InTenThousands(m_rule.dWidth) +
+            "一档，末档不设上限",
+        replay.IsUnderWay() ? InWords(replay) : "柱下为档的下限。源数据约三秒汇成一笔，所以只是大单的估计",
+        "左右键换档。亮柱：" + Describe(classes[static_cast<std::size_t>(nClass)])};
 }
 
-std::string HistogramExhibit::Brief() const {
+std::string HistogramExhibit::Brief(const Replay& replay) const {
     return "大单：平安银行" + InTenThousands(m_rule.dFirst) + "以上的成交，每" +
-           InTenThousands(m_rule.dWidth) + "一档，末档不设上限，2019年2月1日";
+           InTenThousands(m_rule.dWidth) + "一档，末档不设上限，" + DayUntil(replay);
 }
 
 }  // namespace gallery

@@ -1,6 +1,8 @@
 // The gallery: every control on real market data. Written as a customer of the library would write a host.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -18,13 +20,30 @@ namespace gallery {
 
 namespace {
 
-constexpr char kLivePage[] = "minute";
+/// Sets a variable of the environment; read when the first window is made.
+void SetVariable(const std::string& assignment) {
+    static std::deque<std::string> s_kept;  // the environment goes on using the text
+    ::putenv(s_kept.emplace_back(assignment).data());
+}
 
-/// Off the desktop: pictures and scripts must not depend on one. Read before the first window is made; means
-/// nothing where the system itself draws.
-void ChooseHeadlessDisplay() {
-    static char szSetting[] = "TAVLON_DISPLAY=headless";
-    ::putenv(szSetting);
+/// The largest page that is asked for.
+PageSize LargestSize(const Arguments& args, const std::vector<Step>& steps) {
+    PageSize largest = args.size.value_or(PageSize());
+    for (const Step& step : steps) {
+        if (step.action != Action::Size) continue;
+        largest = {std::max(largest.cx, step.size.cx), std::max(largest.cy, step.size.cy)};
+    }
+    return largest;
+}
+
+/// Off the desktop, on a screen that holds the pictures: they must not depend on one. Means nothing where the
+/// system itself draws.
+void ChooseHeadlessDisplay(PageSize largest) {
+    constexpr int kUsualWidth = 1920, kUsualHeight = 1200, kFrame = 128;
+    SetVariable("TAVLON_DISPLAY=headless");
+    if (largest.cx + kFrame <= kUsualWidth && largest.cy + kFrame <= kUsualHeight) return;
+    SetVariable("TAVLON_SCREEN=" + std::to_string(std::max(largest.cx + kFrame, kUsualWidth)) + "x" +
+                std::to_string(std::max(largest.cy + kFrame, kUsualHeight)));
 }
 
 /// Into the far corner, where no page is: a picture shows what a script's own moves point at, nothing else.
@@ -49,13 +68,15 @@ void Render(MainWindow& wnd, const Arguments& args) {
 void Run(const Arguments& args) {
     std::vector<Step> steps;
     if (args.mode == Arguments::Mode::Script) steps = ReadScript(args.target, PageNames());
-    if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay();
+    if (args.mode != Arguments::Mode::Window) ChooseHeadlessDisplay(LargestSize(args, steps));
     if (args.mode != Arguments::Mode::Window) ParkPointer();
     if (args.plainText) SystemParametersInfo(SPI_SETFONTSMOOTHING, FALSE, nullptr, 0);
-    MainWindow wnd({args.data.value_or(FindDataDir()), args.liveSpeed}, Pages());
+    MainWindow wnd({.dataDir = args.data.value_or(FindDataDir()),
+                    .pReplay = std::make_shared<Replay>(args.liveSpeed, ::GetTickCount())},
+                   Pages());
     wnd.Open(PageSize());
     if (args.mode == Arguments::Mode::Render) return Render(wnd, args);
-    wnd.ShowPage(args.liveSpeed ? FindPage(kLivePage) : Pages().front());
+    wnd.ShowPage(Pages().front());
     if (args.mode == Arguments::Mode::Window) return RunMessageLoop();
     wnd.SetPageSize(PageSize());
     Player(wnd, std::move(steps), args.target.string()).Play();

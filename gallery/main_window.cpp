@@ -5,6 +5,7 @@
 
 #include "core/error.h"
 #include "core/split.h"
+#include "loading_note.h"
 #include "tab_captions.h"
 
 namespace gallery {
@@ -14,6 +15,7 @@ constexpr UINT_PTR kTimerId = 1;
 constexpr UINT kTickMs = 10;
 constexpr UINT kTabsId = 2;
 constexpr int kTabsHeight = 24;
+constexpr int kWidestTitle = 4 * 12 + 2;  // four characters at the strip's font height
 constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
 constexpr char kCaption[] = "Tavlon";
 constexpr char kKeysInCaption[] = "（PageUp、PageDown换页）";
@@ -53,14 +55,30 @@ void MainWindow::CreateTabs() {
     CRect rcRest = ClientArea();
     if (!m_tabs.Create(this, TakeTop(rcRest, kTabsHeight), kTabsId, TAB_HORZ_BOX))
         throw Error("the tab strip cannot be made");
-    std::vector<std::string> titles;
-    for (const PageEntry& page : m_pages) titles.push_back(page.title);
-    AddTabs(m_tabs, titles);
     SetNavigationColours(m_tabs);
+    m_bShortTitles = NeedsShortTitles();
+    FillTabs();
+}
+
+bool MainWindow::NeedsShortTitles() const {
+    return ClientArea().Width() < kWidestTitle * static_cast<int>(m_pages.size());
+}
+
+void MainWindow::FillTabs() {
+    std::vector<std::string> titles;
+    titles.reserve(m_pages.size());
+    for (const PageEntry& page : m_pages) titles.push_back(m_bShortTitles ? page.shortTitle : page.title);
+    m_tabs.ClearContent();
+    AddTabs(m_tabs, titles);
+    if (!m_strPage.empty()) m_tabs.SelectTabById(static_cast<int>(PositionOf(m_strPage)));
 }
 
 void MainWindow::ShowPage(const PageEntry& page) {
-    std::unique_ptr<Page> pNew = page.pfnMake(m_settings);
+    std::unique_ptr<Page> pNew;
+    {
+        const LoadingNote note(*this, PageArea());
+        pNew = page.pfnMake(m_settings);
+    }
     m_pPage.reset();
     if (!pNew->CreateOn(*this, PageArea()))
         throw Error("the windows of page " + page.name + " cannot be made");
@@ -150,6 +168,7 @@ void MainWindow::OnSize(UINT nType, int cx, int cy) {
     CRect rcPage = ClientArea();
     const CRect rcTabs = TakeTop(rcPage, kTabsHeight);
     if (CWnd* const pTabs = GetDlgItem(kTabsId)) pTabs->MoveWindow(&rcTabs);
+    if (std::exchange(m_bShortTitles, NeedsShortTitles()) != m_bShortTitles) FillTabs();
     if (m_pPage) m_pPage->MoveWindow(&rcPage);
 }
 

@@ -46,6 +46,8 @@ protected:
 
 private:
     void CreateTabs();
+    bool NeedsShortTitles() const;
+    void FillTabs();
     std::size_t PositionOf(const std::string& name) const;
     void TurnPages(int nBy);  ///< Past the last page comes the first.
 
@@ -53,7 +55,8 @@ private:
     CProxy_TabCtrl m_tabs;
     PageSettings m_settings;
     std::unique_ptr<Page> m_pPage;
-    std::string m_strPage;  ///< Name of the page shown.
+    std::string m_strPage;        ///< Name of the page shown.
+    bool m_bShortTitles = false;  ///< In the tabs.
     std::function<void()> m_tick;
 };
 

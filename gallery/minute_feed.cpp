@@ -46,20 +46,22 @@ std::vector<FedMinute> FedMinutesOf(const MinuteDay& day) {
 }
 
 void MinuteFeed::Start(const MinuteDay& day) {
+    m_item = ItemOf(day);
     m_minutes = FedMinutesOf(day);
+    StartAnew();
+}
+
+void MinuteFeed::StartAnew() {
     m_nNext = 0;
-    tagStockItem item = ItemOf(day);
-    m_chart.Init(item);
+    m_chart.Init(m_item);
     m_chart.Play();  // shows that the former minutes are gone
 }
 
-void MinuteFeed::FeedNext() {
-    if (!IsAtEnd() && GiveNext()) m_chart.Play();
-}
-
 void MinuteFeed::FeedUntil(int nEnd) {
-    while (!IsAtEnd() && m_minutes[m_nNext].nEnd <= nEnd) GiveNext();
-    m_chart.Play();
+    if (nEnd < FedUntil()) StartAnew();
+    bool bNew = false;
+    while (m_nNext < m_minutes.size() && m_minutes[m_nNext].nEnd <= nEnd) bNew |= GiveNext();
+    if (bNew) m_chart.Play();
 }
 
 /// Whether the minute had something for the chart.

@@ -25,16 +25,17 @@ public:
     explicit MinuteFeed(CProxy_ChartOL& chart) : m_chart(chart) {}
 
     void Start(const MinuteDay& day);  ///< Gives the chart the stock, and no minute yet.
-    void FeedNext();                   ///< The next minute, if there is one.
-    void FeedUntil(int nEnd);          ///< All the next ones that end by then (HHMM), at once.
-
-    bool IsAtEnd() const { return m_nNext == m_minutes.size(); }
-    int FedUntil() const { return m_nNext == 0 ? 0 : m_minutes[m_nNext - 1].nEnd; }  ///< HHMM; 0: nothing.
+    /// Brings the chart to that time of the day (HHMM): gives it the new minutes and touches nothing else.
+    /// For a time before the last one given the day starts anew.
+    void FeedUntil(int nEnd);
 
 private:
+    int FedUntil() const { return m_nNext == 0 ? 0 : m_minutes[m_nNext - 1].nEnd; }  ///< HHMM; 0: nothing.
+    void StartAnew();
     bool GiveNext();
 
     CProxy_ChartOL& m_chart;
+    tagStockItem m_item{};
     std::vector<FedMinute> m_minutes;
     std::size_t m_nNext = 0;
 };

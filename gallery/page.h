@@ -6,9 +6,11 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
+
+#include "core/choice.h"
+#include "core/replay.h"
 
 namespace gallery {
 
@@ -52,15 +54,16 @@ private:
 /// What every page is made with.
 struct PageSettings {
     std::filesystem::path dataDir;
-    std::optional<int> liveSpeed;  ///< Replay what can be replayed, minutes of trading a second.
-    /// The industry chosen last, by its place in the list of them that pages share; -1: none yet.
-    std::shared_ptr<int> pChosenIndustry = std::make_shared<int>(-1);
+    // For all pages of the program, whichever is shown; there always is one of each.
+    std::shared_ptr<Replay> pReplay = std::make_shared<Replay>();
+    std::shared_ptr<Choice> pChoice = std::make_shared<Choice>();
 };
 
 /// One line of the list of pages.
 struct PageEntry {
-    std::string name;   ///< For the command line, scripts and file names.
-    std::string title;  ///< For people, code page 936.
+    std::string name;        ///< For the command line, scripts and file names.
+    std::string title;       ///< For people, code page 936.
+    std::string shortTitle;  ///< Two characters, for a narrow tab.
     /// Reads what the page needs from the data directory; throws Error when that fails.
     std::unique_ptr<Page> (*pfnMake)(const PageSettings& settings);
 };

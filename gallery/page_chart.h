@@ -7,17 +7,20 @@
 
 namespace gallery {
 
-template <class Chart>
-class ChartPage : public Page {
+/// Base: what kind of page it is.
+template <class Chart, class Base = Page>
+class ChartPage : public Base {
 protected:
+    using Base::Base;
+
     virtual void Feed(Chart& chart) = 0;  ///< Gives the new chart its data.
 
     Chart& TheChart() { return m_chart; }
     /// The chart's window; nothing before it is made.
-    CWnd* ChartWindow() { return GetDlgItem(kChartId); }
+    CWnd* ChartWindow() { return this->GetDlgItem(kChartId); }
 
     BOOL CreateControls() override {
-        if (!m_chart.Create(this, ContentRect(), kChartId)) return FALSE;
+        if (!m_chart.Create(this, this->ContentRect(), kChartId)) return FALSE;
         Feed(m_chart);
         return TRUE;
     }

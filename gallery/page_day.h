@@ -1,53 +1,32 @@
-/// A page with a radar on the stocks of 2018-09-21, one sector of them marked.
+/// A page with a radar on the stocks of 2018-09-21, those of the industry chosen last marked.
 #pragma once
 
-#include "core/frame.h"
-#include "core/stocks.h"
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "page_chart.h"
+#include "radar_exhibits.h"
 
 namespace gallery {
 
-constexpr char kDayFile[] = "stocks_2018-09-21.csv";
-constexpr char kDayStocks[] = "沪深A股";
-
-template <class Radar>
-class DayPage : public ChartPage<Radar> {
-protected:
-    /// places: where each of the stocks would stand.
-    DayPage(const std::vector<Stock>& stocks, const std::vector<Place>& places, const Frame& frame,
-            const SelectionWords& words)
-        : m_nSector(SectorId(stocks, kMarkedSector)) {
-        const FrameSelection chosen = SelectForFrame(places, frame, kLimit);
-        for (const std::size_t n : chosen.shown) m_records.push_back(RecordOf(stocks[n], places[n]));
-        this->SetNotes(SelectionNotes(chosen, words));
+template <class Exhibit>
+class DayPage : public ChartPage<typename Exhibit::Control> {
+public:
+    explicit DayPage(const PageSettings& settings)
+        : m_exhibit(ReadRadarDay(settings.dataDir)), m_pChoice(settings.pChoice) {
+        this->SetNotes(m_exhibit.Notes());
     }
 
-    virtual void OpenGate(Radar&) {}  ///< Called when the data is complete.
+protected:
+    const Exhibit& TheExhibit() const { return m_exhibit; }
+    Choice& TheChoice() { return *m_pChoice; }
 
 private:
-    static constexpr std::size_t kLimit = 3000;  // points that the radars take
-    static constexpr char kMarkedSector[] = "生物制药";
+    void Feed(typename Exhibit::Control& radar) override { m_exhibit.Feed(radar, m_pChoice->strIndustry); }
 
-    static tagPointRadarItemData RecordOf(const Stock& stock, const Place& place) {
-        auto record = RecordFor<tagPointRadarItemData>(stock);
-        record.dX = place.x.value();
-        record.dY = place.y.value();
-        record.nBlockId = stock.sectorId.value_or(0);  // sectors count from 1
-        return record;
-    }
-
-    void Feed(Radar& radar) override {
-        radar.Init();
-        for (const tagPointRadarItemData& record : m_records) radar.SetData(record);
-        radar.ActiveBlockByInfo(m_nSector, kMarkedSector);
-        radar.Play();
-        OpenGate(radar);
-        CTime close(2018, 9, 21, 15, 0, 0);
-        radar.SetUpdateTime(close);
-    }
-
-    int m_nSector;
-    std::vector<tagPointRadarItemData> m_records;
+    Exhibit m_exhibit;
+    std::shared_ptr<Choice> m_pChoice;
 };
 
 }  // namespace gallery

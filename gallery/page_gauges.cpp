@@ -1,6 +1,7 @@
-// The four gauges on one page, two by two.
+// The four gauges on one page, two by two; ladder and histogram follow the replayed day.
 #include "core/split.h"
 #include "gauge_exhibits.h"
+#include "live_page.h"
 #include "pages.h"
 
 namespace gallery {
@@ -14,30 +15,37 @@ struct Stand {
     UINT nId;
     typename Exhibit::Control control;
 
-    BOOL CreateOn(CWnd& page) {
-        if (!control.Create(&page, CRect(0, 0, 0, 0), nId)) return FALSE;
-        exhibit.Feed(control);
-        return TRUE;
-    }
+    BOOL CreateOn(CWnd& page) { return control.Create(&page, CRect(0, 0, 0, 0), nId); }
 };
 
-class GaugesPage : public Page {
+class GaugesPage : public LivePage {
 public:
-    explicit GaugesPage(const std::filesystem::path& dataDir)
-        : m_risk{RiskExhibit(dataDir), kFirstId, {}},
-          m_position{PositionExhibit(dataDir), kFirstId + 1, {}},
-          m_ladder{LadderExhibit(dataDir), kFirstId + 2, {}},
-          m_histogram{HistogramExhibit(dataDir, HistogramExhibit::Detail::Half), kFirstId + 3, {}} {
-        SetNotes({m_risk.exhibit.Brief(), m_position.exhibit.Brief(), m_ladder.exhibit.Brief(),
-                  m_histogram.exhibit.Brief()});
-    }
+    explicit GaugesPage(const PageSettings& settings)
+        : LivePage(settings.pReplay),
+          m_strStock(settings.pChoice->strStock),
+          m_risk{RiskExhibit(settings.dataDir), kFirstId, {}},
+          m_position{PositionExhibit(settings.dataDir), kFirstId + 1, {}},
+          m_ladder{LadderExhibit(settings.dataDir), kFirstId + 2, {}},
+          m_histogram{HistogramExhibit(settings.dataDir, HistogramExhibit::Detail::Half), kFirstId + 3, {}} {}
 
 private:
     static constexpr UINT kFirstId = 100;
 
     BOOL CreateControls() override {
-        return m_risk.CreateOn(*this) && m_position.CreateOn(*this) && m_ladder.CreateOn(*this) &&
-               m_histogram.CreateOn(*this);
+        if (!m_risk.CreateOn(*this) || !m_position.CreateOn(*this) || !m_ladder.CreateOn(*this) ||
+            !m_histogram.CreateOn(*this))
+            return FALSE;
+        m_risk.exhibit.Feed(m_risk.control);
+        m_position.exhibit.Feed(m_position.control);
+        ShowReached();
+        return TRUE;
+    }
+
+    void ShowReached() override {
+        m_ladder.exhibit.Feed(m_ladder.control, m_strStock, TheReplay().Minutes());
+        m_histogram.exhibit.Feed(m_histogram.control, TheReplay().Minutes());
+        SetNotes({m_risk.exhibit.Brief(), m_position.exhibit.Brief(),
+                  m_ladder.exhibit.Brief(m_strStock, TheReplay()), m_histogram.exhibit.Brief(TheReplay())});
     }
 
     void PlaceControls(const CRect& rcContent) override {
@@ -57,6 +65,7 @@ private:
         if (CWnd* const pControl = GetDlgItem(static_cast<int>(nId))) pControl->MoveWindow(&rc);
     }
 
+    std::string m_strStock;
     Stand<RiskExhibit> m_risk;
     Stand<PositionExhibit> m_position;
     Stand<LadderExhibit> m_ladder;
@@ -66,7 +75,7 @@ private:
 }  // namespace
 
 std::unique_ptr<Page> MakeGaugesPage(const PageSettings& settings) {
-    return std::make_unique<GaugesPage>(settings.dataDir);
+    return std::make_unique<GaugesPage>(settings);
 }
 
 }  // namespace gallery

@@ -1,5 +1,5 @@
-/// A page with a chart on the money of the largest industries and the list of them beside it. The industry
-/// that was chosen last is kept by the program: every page of this kind starts with it.
+/// A page with a chart on money flows and the list of what it shows beside it: at first the largest
+/// industries, of which the one that was chosen last is kept by the program.
 #pragma once
 
 #include <algorithm>
@@ -8,14 +8,12 @@
 #include <utility>
 #include <vector>
 
-#include "core/industry_days.h"
 #include "core/split.h"
+#include "money_feed.h"
 #include "page_chart.h"
 #include "tab_captions.h"
 
 namespace gallery {
-
-constexpr char kIndustryFile[] = "industry_flow_2026-08.csv";
 
 /// How the industries of the list were chosen; a note under the chart.
 inline std::string ChoiceInWords(const IndustryDay& newest, std::size_t nShown) {
@@ -26,29 +24,38 @@ inline std::string ChoiceInWords(const IndustryDay& newest, std::size_t nShown) 
 template <class Chart>
 class IndustriesPage : public ChartPage<Chart> {
 protected:
-    IndustriesPage(std::vector<IndustryDay> days, std::shared_ptr<int> pChosen)
-        : m_days(std::move(days)),
-          m_shown(LargestFlows(Newest().flows, kMostIndustries)),
-          m_pChosen(std::move(pChosen)) {}
+    explicit IndustriesPage(const PageSettings& settings)
+        : m_days(ReadMoneyDays(settings.dataDir)),
+          m_shown(LargestFlows(Newest().flows, kMostListed)),
+          m_pChoice(settings.pChoice) {}
 
-    /// Marks the industry at that place of Shown() in the chart.
-    virtual void Mark(Chart& chart, int nIndustry) = 0;
+    /// Marks what stands at that place of Shown() in the chart.
+    virtual void Mark(Chart& chart, int nPlace) = 0;
+    /// What is chosen, by its place; -1: nothing yet.
+    virtual int Chosen() const { return m_pChoice->nListed; }
+    virtual void SetChosen(int nPlace) { m_pChoice->nListed = nPlace; }
+    virtual void PlaceList(const CRect& rc) {
+        if (CWnd* const pList = this->GetDlgItem(kListId)) pList->MoveWindow(&rc);
+    }
 
     const std::vector<IndustryDay>& Days() const { return m_days; }
     const IndustryDay& Newest() const { return m_days.back(); }
-    /// The industries of the list, the largest of the newest day first, as they were on that day. Their
-    /// places are the ids that the chart gets.
-    const std::vector<IndustryFlow>& Shown() const { return m_shown; }
+    /// What the list names, the largest first. The places are the ids that the chart gets.
+    const std::vector<MoneyFlow>& Shown() const { return m_shown; }
+    Choice& TheChoice() { return *m_pChoice; }
+
+    /// Another list, for chart and names.
+    void Show(std::vector<MoneyFlow> flows) {
+        m_shown = std::move(flows);
+        this->Feed(this->TheChart());
+        FillList();
+    }
 
     BOOL CreateControls() override {
         if (!ChartPage<Chart>::CreateControls()) return FALSE;
         if (!m_list.Create(this, CRect(0, 0, 0, 0), kListId, TAB_VERT_NONE)) return FALSE;
-        std::vector<std::string> names;
-        names.reserve(m_shown.size());
-        for (const IndustryFlow& flow : m_shown) names.push_back(flow.name);
-        AddTabs(m_list, names);
         SetNavigationColours(m_list);
-        if (IsShown(*m_pChosen)) ChooseLater();
+        FillList();
         return TRUE;
     }
 
@@ -56,7 +63,7 @@ protected:
         CRect rcChart = rcContent;
         const CRect rcList = TakeLeft(rcChart, kListWidth);
         ChartPage<Chart>::PlaceControls(rcChart);
-        if (CWnd* const pList = this->GetDlgItem(kListId)) pList->MoveWindow(&rcList);
+        PlaceList(rcList);
     }
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
@@ -67,7 +74,7 @@ protected:
 
     bool OnKey(UINT nKey) override {
         if (nKey != VK_UP && nKey != VK_DOWN) return false;
-        const int nNext = *m_pChosen + (nKey == VK_DOWN ? 1 : -1);
+        const int nNext = Chosen() + (nKey == VK_DOWN ? 1 : -1);
         m_list.SelectTabById(std::clamp(nNext, 0, static_cast<int>(m_shown.size()) - 1));
         Choose(m_list.GetActiveId());
         return true;
@@ -76,27 +83,33 @@ protected:
 private:
     static constexpr UINT kListId = 101;
     static constexpr int kListWidth = 96;
-    static constexpr std::size_t kMostIndustries = 10;
 
-    bool IsShown(int nIndustry) const {
-        return nIndustry >= 0 && nIndustry < static_cast<int>(m_shown.size());
+    bool IsShown(int nPlace) const { return nPlace >= 0 && nPlace < static_cast<int>(m_shown.size()); }
+
+    void FillList() {
+        std::vector<std::string> names;
+        names.reserve(m_shown.size());
+        for (const MoneyFlow& flow : m_shown) names.push_back(flow.name);
+        m_list.ClearContent();
+        AddTabs(m_list, names);
+        if (IsShown(Chosen())) ChooseLater();
     }
 
-    void Choose(int nIndustry) {
-        if (!IsShown(nIndustry)) return;
-        *m_pChosen = nIndustry;
-        Mark(this->TheChart(), nIndustry);
+    void Choose(int nPlace) {
+        if (!IsShown(nPlace)) return;
+        SetChosen(nPlace);
+        Mark(this->TheChart(), nPlace);
     }
 
     /// As if its name had been clicked, when the page is in its place.
     void ChooseLater() {
-        m_list.SelectTabById(*m_pChosen);
+        m_list.SelectTabById(Chosen());
         this->PostMessage(WM_COMMAND, kListId);
     }
 
     std::vector<IndustryDay> m_days;
-    std::vector<IndustryFlow> m_shown;
-    std::shared_ptr<int> m_pChosen;
+    std::vector<MoneyFlow> m_shown;
+    std::shared_ptr<Choice> m_pChoice;
     CProxy_TabCtrl m_list;
 };
 

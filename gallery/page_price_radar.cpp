@@ -6,52 +6,19 @@ namespace gallery {
 
 namespace {
 
-constexpr int kInflow = 0, kOutflow = 1;  // types of the price radar's items
-constexpr int kColumns = 8;
-
 class PriceRadarPage : public IndustriesPage<CProxy_PriceRadarCtrl> {
 public:
-    explicit PriceRadarPage(const PageSettings& settings)
-        : IndustriesPage(ReadIndustryDays(settings.dataDir / kIndustryFile), settings.pChosenIndustry) {
-        Tell({});
-    }
+    explicit PriceRadarPage(const PageSettings& settings) : IndustriesPage(settings) { Tell({}); }
 
 private:
-    void Feed(CProxy_PriceRadarCtrl& radar) override;
-    void Mark(CProxy_PriceRadarCtrl& radar, int nIndustry) override;
-    void FeedColumn(CProxy_PriceRadarCtrl& radar, int nColumn, const IndustryDay& day);
+    void Feed(CProxy_PriceRadarCtrl& radar) override { FeedPriceRadar(radar, Days(), Shown()); }
+    void Mark(CProxy_PriceRadarCtrl& radar, int nPlace) override;
     void Tell(const std::string& strChosen);
 };
 
-/// The newest day goes into column 0, which is the rightmost.
-void PriceRadarPage::Feed(CProxy_PriceRadarCtrl& radar) {
-    radar.Init();
-    char szTitle[] = "行业资金流入与流出，八个交易日";
-    radar.SetTitleText(szTitle);
-    radar.SetTitleFontColor(RGB(255, 255, 255));
-    radar.SetTitleBackColor(RGB(0, 84, 166));
-    const int nDays = static_cast<int>(Days().size());
-    for (int n = 0; n < std::min(kColumns, nDays); ++n)
-        FeedColumn(radar, n, Days()[static_cast<std::size_t>(nDays - 1 - n)]);
-    radar.Play();
-}
-
-void PriceRadarPage::FeedColumn(CProxy_PriceRadarCtrl& radar, int nColumn, const IndustryDay& day) {
-    tagPriceRadarItemData item{};
-    item.nIndex = nColumn;
-    item.nDate = day.nDate;
-    for (const IndustryFlow& shown : Shown()) {
-        if (const IndustryFlow* const pFlow = day.Find(shown.name)) {
-            item.dValue = pFlow->dInflow, item.nType = kInflow, radar.SetData(item);
-            item.dValue = pFlow->dOutflow, item.nType = kOutflow, radar.SetData(item);
-        }
-        ++item.nId;
-    }
-}
-
-void PriceRadarPage::Mark(CProxy_PriceRadarCtrl& radar, int nIndustry) {
-    radar.SetSelectId(nIndustry);
-    Tell("当日" + Describe(Shown()[static_cast<std::size_t>(nIndustry)]) + "。");
+void PriceRadarPage::Mark(CProxy_PriceRadarCtrl& radar, int nPlace) {
+    radar.SetSelectId(nPlace);
+    Tell("当日" + Describe(Shown()[static_cast<std::size_t>(nPlace)]) + "。");
 }
 
 void PriceRadarPage::Tell(const std::string& strChosen) {

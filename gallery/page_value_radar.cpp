@@ -1,4 +1,4 @@
-// The value radar on all A shares: growth of sales against price to sales.
+// The value radar, on which a stock can be picked for the other pages.
 #include "page_day.h"
 #include "pages.h"
 
@@ -6,38 +6,31 @@ namespace gallery {
 
 namespace {
 
-constexpr Frame kFrame{-100, 200, 0, 30};
-constexpr double kGateGrowth = 30, kGatePs = 3;  // growing fast and priced low
-
-SelectionWords Words() {
-    return {{"2018年9月21日收盘，横轴为2018年上半年营收同比增长率(%)"},
-            kDayStocks,
-            "市值",
-            "-100~200%，市销率0~30",
-            "增长率或市销率未知"};
-}
-
-std::vector<Place> Places(const std::vector<Stock>& stocks) {
-    std::vector<Place> places;
-    places.reserve(stocks.size());
-    for (const Stock& stock : stocks)
-        places.push_back({stock.revenueGrowth, stock.priceToSales, stock.marketCap});
-    return places;
-}
-
-class ValueRadarPage : public DayPage<CProxy_RoePointCtrl> {
+class ValueRadarPage : public DayPage<ValueRadarExhibit> {
 public:
-    explicit ValueRadarPage(const std::vector<Stock>& stocks)
-        : DayPage(stocks, Places(stocks), kFrame, Words()) {}
+    using DayPage::DayPage;
 
-private:
-    void OpenGate(CProxy_RoePointCtrl& radar) override { radar.SetGate(kGateGrowth, kGatePs); }
+protected:
+    afx_msg LRESULT OnStockPicked(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
 };
+
+BEGIN_MESSAGE_MAP(ValueRadarPage, DayPage<ValueRadarExhibit>)
+ON_MESSAGE(kStockPicked, OnStockPicked)
+END_MESSAGE_MAP()
+
+LRESULT ValueRadarPage::OnStockPicked(WPARAM, LPARAM) {
+    TheChoice().strStock = TheChart().PickedCode();
+    std::vector<std::string> notes = TheExhibit().Notes();
+    notes.front() = "已选" + TheChoice().strStock + "：资金饼图页与同行业个股并列，分时页有其数据时显示";
+    SetNotes(std::move(notes));
+    return 0;
+}
 
 }  // namespace
 
 std::unique_ptr<Page> MakeValueRadarPage(const PageSettings& settings) {
-    return std::make_unique<ValueRadarPage>(ReadStocks(settings.dataDir / kDayFile));
+    return std::make_unique<ValueRadarPage>(settings);
 }
 
 }  // namespace gallery

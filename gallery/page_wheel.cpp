@@ -1,25 +1,20 @@
 // The wheel on the main force's money by industry; tabs choose how many industries it shows.
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <utility>
 
-#include "core/sectors.h"
 #include "core/split.h"
-#include "core/text.h"
 #include "page_chart.h"
 #include "pages.h"
 #include "tab_captions.h"
+#include "wheel_feed.h"
 
 namespace gallery {
 
 namespace {
 
-constexpr char kFile[] = "industries_2025-09-22.csv";
-constexpr char kTitle[] = "行业主力净占比(%)";
-constexpr char kInvitation[] = "双击圆点或行业名，本页即收到通知并向控件取回该行业的数据";
+constexpr char kInvitation[] = "双击圆点或行业名：本页向控件取回其数据，两个雷达页标出该行业的个股";
 
-constexpr UINT kSectorChosen = WM_USER + 301;  // from the wheel
 constexpr UINT kCountsId = 101;
 constexpr int kCountsHeight = 22;
 constexpr std::array<std::size_t, 3> kCounts{8, 28, 60};
@@ -27,7 +22,10 @@ constexpr int kFirstCount = 1;
 
 class WheelPage : public ChartPage<CProxy_BR> {
 public:
-    explicit WheelPage(std::vector<Sector> sectors) : m_sectors(std::move(sectors)) { Choose(kFirstCount); }
+    explicit WheelPage(const PageSettings& settings)
+        : m_sectors(ReadWheelSectors(settings.dataDir)), m_pChoice(settings.pChoice) {
+        Choose(kFirstCount);
+    }
 
 protected:
     afx_msg void OnCount() { ShowCount(m_counts.GetActiveId()); }
@@ -37,16 +35,16 @@ protected:
 private:
     BOOL CreateControls() override;
     void PlaceControls(const CRect& rcContent) override;
-    void Feed(CProxy_BR& wheel) override;
+    void Feed(CProxy_BR& wheel) override { FeedWheel(wheel, m_shown, m_pChoice->strIndustry); }
     bool OnKey(UINT nKey) override;
 
     void ShowCount(int nPosition);
     void Choose(std::size_t nPosition);
-    const Sector* Shown(const std::string& name) const;
     void Tell(std::string strAnswer);
 
     std::vector<Sector> m_sectors;
     std::vector<Sector> m_shown;
+    std::shared_ptr<Choice> m_pChoice;
     CProxy_TabCtrl m_counts;
 };
 
@@ -57,14 +55,10 @@ END_MESSAGE_MAP()
 
 BOOL WheelPage::CreateControls() {
     if (!ChartPage::CreateControls()) return FALSE;
-    if (!m_counts.Create(this, CRect(0, 0, 0, 0), kCountsId, TAB_HORZ_CHAMFER)) return FALSE;
     std::vector<std::string> captions;
     captions.reserve(kCounts.size());
     for (const std::size_t nCount : kCounts) captions.push_back(std::to_string(nCount) + "个行业");
-    AddTabs(m_counts, captions);
-    SetNavigationColours(m_counts);
-    m_counts.SelectTabById(kFirstCount);
-    return TRUE;
+    return CreateNavigation(m_counts, *this, kCountsId, TAB_HORZ_CHAMFER, captions, kFirstCount);
 }
 
 void WheelPage::PlaceControls(const CRect& rcContent) {
@@ -72,27 +66,6 @@ void WheelPage::PlaceControls(const CRect& rcContent) {
     const CRect rcCounts = TakeBottom(rcWheel, kCountsHeight);
     ChartPage::PlaceControls(rcWheel);
     if (CWnd* const pCounts = GetDlgItem(kCountsId)) pCounts->MoveWindow(&rcCounts);
-}
-
-/// The sector that was selected stays so if it is still there, else the first one is.
-void WheelPage::Feed(CProxy_BR& wheel) {
-    tagmyBRData selected{};
-    wheel.GetCurBlockData(selected);
-    CArray<tagmyBRData, tagmyBRData&> records;
-    for (const Sector& sector : m_shown) {
-        tagmyBRData record{};
-        CopyToField(record.name, sector.name);
-        record.value = static_cast<float>(MainShare(sector));
-        records.Add(record);
-    }
-    tagBlocksInfo info{};
-    CopyToField(info.title, kTitle);
-    const Sector* const pSelected = Shown(selected.name);
-    if (!m_shown.empty()) CopyToField(info.current, (pSelected ? *pSelected : m_shown.front()).name);
-    wheel.Init(records, info);
-    CTime close(2025, 9, 22, 15, 0, 0);
-    wheel.SetUpdateTime(close);
-    wheel.ReDraw();
 }
 
 bool WheelPage::OnKey(UINT nKey) {
@@ -114,19 +87,14 @@ void WheelPage::Choose(std::size_t nPosition) {
     Tell(kInvitation);
 }
 
-/// Nothing when the wheel does not show it.
-const Sector* WheelPage::Shown(const std::string& name) const {
-    const auto it = std::ranges::find(m_shown, name, &Sector::name);
-    return it == m_shown.end() ? nullptr : &*it;
-}
-
 /// The wheel posts this; it says only that there was a double click.
 LRESULT WheelPage::OnSectorChosen(WPARAM, LPARAM) {
     tagmyBRData record{};
     if (!TheChart().GetCurBlockData(record)) return 0;
     char szAnswer[80];
     std::snprintf(szAnswer, sizeof szAnswer, "取回：%s，主力占盘比%.2f。", record.name, record.value);
-    const Sector* const pSector = Shown(record.name);
+    m_pChoice->strIndustry = record.name;
+    const Sector* const pSector = FindSector(m_shown, record.name);
     Tell(szAnswer + (pSector ? Describe(*pSector) : std::string()));
     return 0;
 }
@@ -140,7 +108,7 @@ void WheelPage::Tell(std::string strAnswer) {
 }  // namespace
 
 std::unique_ptr<Page> MakeWheelPage(const PageSettings& settings) {
-    return std::make_unique<WheelPage>(ReadSectors(settings.dataDir / kFile));
+    return std::make_unique<WheelPage>(settings);
 }
 
 }  // namespace gallery

@@ -10,6 +10,7 @@ std::vector<std::string> PageNames();
 const PageEntry& FindPage(const std::string& name);  ///< An Error when there is none of that name.
 
 // The factories, each in the page's own file; those of the gauges that only show are in one.
+std::unique_ptr<Page> MakeOverviewPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeValueRadarPage(const PageSettings& settings);
 std::unique_ptr<Page> MakePointsPage(const PageSettings& settings);
 std::unique_ptr<Page> MakeStarsPage(const PageSettings& settings);

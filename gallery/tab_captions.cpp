@@ -19,4 +19,13 @@ void SetNavigationColours(CProxy_TabCtrl& tabs) {
     tabs.SetNormalTabBackColor(RGB(32, 32, 32));
 }
 
+BOOL CreateNavigation(CProxy_TabCtrl& tabs, CWnd& wndParent, UINT nId, tagTabCtrlStyle style,
+                      const std::vector<std::string>& captions, int nActive) {
+    if (!tabs.Create(&wndParent, CRect(0, 0, 0, 0), nId, style)) return FALSE;
+    AddTabs(tabs, captions);
+    SetNavigationColours(tabs);
+    tabs.SelectTabById(nActive);
+    return TRUE;
+}
+
 }  // namespace gallery

@@ -14,4 +14,8 @@ void AddTabs(CProxy_TabCtrl& tabs, const std::vector<std::string>& captions);
 /// White on blue and grey on dark grey, for a strip that people work with all the time.
 void SetNavigationColours(CProxy_TabCtrl& tabs);
 
+/// Makes a strip of such tabs, one of them active, of no size yet. FALSE: there is no window.
+BOOL CreateNavigation(CProxy_TabCtrl& tabs, CWnd& wndParent, UINT nId, tagTabCtrlStyle style,
+                      const std::vector<std::string>& captions, int nActive);
+
 }  // namespace gallery

@@ -28,7 +28,7 @@ forbid "a control sees only the framework and the foundation" 'win32/' \
     src/foundation src/wrappers src/scatter src/wheel src/minute src/pie src/gauges src/tabs
 forbid "the host uses only the public headers" \
     'win32/|gdi/|user/|kernel/|display/|pixman|ft2build|SDL|foundation/|scatter/|wheel/|minute/|pie/|gauges/|tabs/|wrappers/' \
-    gallery
+    gallery examples
 forbid "families of controls do not know one another" '(scatter|wheel|minute|pie|gauges|tabs)/' src/foundation
 for family in scatter wheel minute pie gauges tabs; do
     others=$(printf '%s\n' scatter wheel minute pie gauges tabs | grep -vx "$family" | paste -sd'|')

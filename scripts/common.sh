@@ -37,6 +37,7 @@ native_packages=(g++ cmake ninja-build ccache pkg-config binutils-mingw-w64-x86-
     fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35)
 test_packages=(libgtest-dev)
 lint_packages=(clang-tidy clang-format git)
+package_packages=(dpkg-dev file)
 bench_packages=(libbenchmark-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xauth locales)
 

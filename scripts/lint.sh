@@ -8,6 +8,7 @@ sources=$(git ls-files -- '*.cpp' '*.h')
 clang-format --dry-run --Werror $sources
 scripts/check_includes.sh
 scripts/check_budgets.sh
+scripts/check_snippets.sh
 quietly cmake --preset release -DBUILD_TESTING=ON -DTAVLON_WERROR=OFF
 # GBK literals are the compiler's business; clang reads the same files with the charset it knows.
 # shellcheck disable=SC2086

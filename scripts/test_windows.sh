@@ -1,35 +1,13 @@
 #!/usr/bin/env bash
-# The whole suite, cross-built and run under Wine (arguments go to GoogleTest), and the gallery's pictures beside the
-# native ones.
+# The whole suite, cross-built and run under Wine (arguments go to GoogleTest), the gallery's pictures beside the native
+# ones, and the package for other machines in the hands of a host.
 cd "$(dirname "$(readlink -f "$0")")/.."
 . scripts/common.sh
-
-install_packages "${native_packages[@]}" "${windows_packages[@]}"
-# One virtual screen for everything that runs below.
-[ -n "${TAVLON_SCREEN_READY:-}" ] || TAVLON_SCREEN_READY=1 exec xvfb-run -a -s "-screen 0 1920x1200x24" scripts/test_windows.sh "$@"
-locale -a | grep -qi '^zh_CN\.utf-\?8$' || {
-    grep -q '^zh_CN.UTF-8' /etc/locale.gen || echo 'zh_CN.UTF-8 UTF-8' | as_root tee -a /etc/locale.gen >/dev/null
-    quietly as_root locale-gen
-}
+. scripts/wine.sh scripts/test_windows.sh "$@"
 
 werror=()
 [ -n "${CI:-}" ] && werror=(-DTAVLON_WERROR=ON)
 build windows -DBUILD_TESTING=ON "${werror[@]}"
-
-# A Wine set-up of our own, in code page 936, with the two named faces mapped as the native library maps them.
-export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=" LC_ALL=zh_CN.UTF-8
-if [ ! -f "$WINEPREFIX/.tavlon-ready" ] || [ -n "$(find scripts -name 'wine-*.reg' -newer "$WINEPREFIX/.tavlon-ready")" ]; then
-    mkdir -p "$WINEPREFIX"
-    quietly wineboot -i
-    for settings in scripts/wine-*.reg; do quietly wine regedit /S "$settings"; done
-    quietly wineserver -w
-    touch "$WINEPREFIX/.tavlon-ready"
-fi
-
-trap 'wineserver -k || true' EXIT
-
-# Unsmoothed text, in the system's own programs as in ours: the pictures are compared pixel by pixel.
-export FONTCONFIG_FILE=$PWD/scripts/wine-fonts.conf
 
 # Every window costs Wine a thousand times what it costs natively: fewer random calls here.
 status=0
@@ -37,4 +15,5 @@ TAVLON_STEPS=${TAVLON_STEPS:-10000} wine build/windows/bin/tavlon_tests.exe --gt
 
 build release -DBUILD_TESTING=ON "${werror[@]}" -- tavlon_gallery tavlon_scenes compare_pictures
 . scripts/compare_platforms.sh
+scripts/test_install_windows.sh || status=1
 exit $status

@@ -61,7 +61,7 @@ private:
     }
 
     const std::string& Value(const std::string& option) {
-        if (m_nNext == m_args.size() || m_args[m_nNext].empty()) throw UsageError(option + " needs a value");
+        if (!NextIsValue() || m_args[m_nNext].empty()) throw UsageError(option + " needs a value");
         return m_args[m_nNext++];
     }
 
@@ -118,8 +118,10 @@ Arguments ParseArguments(const std::vector<std::string>& args, const std::vector
 std::string Usage(const std::vector<std::string>& pages) {
     std::string text =
         "usage: tavlon_gallery                 the charts in a window\n"
-        "       tavlon_gallery --live [SPEED]  the same, at the minute chart, which replays its day:\n"
-        "                                      1 to 240 minutes of trading a second, 4 if not given\n"
+        "       tavlon_gallery --live [SPEED]  the same, and 2019-02-01 is replayed on every page that "
+        "shows\n"
+        "                                      that day, 1 to 240 minutes of trading a second, 4 if not "
+        "given\n"
         "       tavlon_gallery --render DIR [--page NAME] [--size WxH] [--plain-text]\n"
         "                                      one PNG a page into DIR\n"
         "       tavlon_gallery --script FILE [--plain-text]\n"

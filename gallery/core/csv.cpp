@@ -1,16 +1,46 @@
 #include "csv.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <fstream>
-#include <sstream>
 
 #include "error.h"
+#include "load_progress.h"
 #include "text.h"
 
 namespace gallery {
 
 namespace {
+
+constexpr std::size_t kChunk = 65536;  // bytes that are read at a time
+constexpr std::size_t kLinesAReport = 256;
+
+// A file is half done when its bytes are there and done when they are parsed: either may take the time.
+
+void ReportRead(const std::string& strFile, std::size_t nBytes, std::size_t nAll) {
+    LoadProgress::Report(strFile, nBytes, 2 * nAll);
+}
+
+void ReportParsed(const std::string& strFile, std::size_t nBytes, std::size_t nAll) {
+    LoadProgress::Report(strFile, nAll + nBytes, 2 * nAll);
+}
+
+std::string BytesOf(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::uintmax_t nAll = std::filesystem::file_size(file, error);
+    std::ifstream in(file, std::ios::binary);
+    std::string bytes(error ? 0 : static_cast<std::size_t>(nAll), '\0');
+    std::size_t nRead = 0;
+    while (in && nRead < bytes.size()) {
+        const std::size_t nChunk = std::min(kChunk, bytes.size() - nRead);
+        in.read(bytes.data() + nRead, static_cast<std::streamsize>(nChunk));
+        ReportRead(file.string(), nRead += static_cast<std::size_t>(in.gcount()), bytes.size());
+    }
+    if (nRead == 0 || nRead < bytes.size()) throw Error(file.string() + ": cannot be read, or is empty");
+    return bytes;
+}
 
 std::vector<std::string> SplitFields(std::string_view line) {
     std::vector<std::string> fields;
@@ -37,16 +67,12 @@ std::optional<T> ParseWhole(const std::string& text) {
 
 }  // namespace
 
-CsvTable CsvTable::Read(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream bytes;
-    if (!in || !(bytes << in.rdbuf())) throw Error(file.string() + ": cannot be read, or is empty");
-    return Parse(bytes.str(), file.string());
-}
+CsvTable CsvTable::Read(const std::filesystem::path& file) { return Parse(BytesOf(file), file.string()); }
 
 CsvTable CsvTable::Parse(std::string_view text, std::string strName) {
     CsvTable table;
     table.m_strName = std::move(strName);
+    const std::size_t nAll = text.size();
     if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
     for (std::size_t nLine = 1; !text.empty(); ++nLine) {
         const std::size_t nEnd = text.find('\n');
@@ -54,6 +80,7 @@ CsvTable CsvTable::Parse(std::string_view text, std::string strName) {
         text.remove_prefix(nEnd == std::string_view::npos ? text.size() : nEnd + 1);
         if (line.ends_with('\r')) line.remove_suffix(1);
         if (!line.empty()) table.AddLine(nLine, line);
+        if (nLine % kLinesAReport == 0) ReportParsed(table.m_strName, nAll - text.size(), nAll);
     }
     if (table.m_header.empty()) throw Error(AtLine(table.m_strName, 1) + ": no header row");
     return table;

@@ -1,7 +1,6 @@
 #include "gauge_figures.h"
 
 #include <algorithm>
-#include <span>
 
 #include "error.h"
 
@@ -13,8 +12,8 @@ constexpr int kSteps = 5, kMiddleStep = 3;
 
 /// The last nMost of them, or all.
 template <class T>
-std::span<const T> Last(const std::vector<T>& all, std::size_t nMost) {
-    return std::span(all).last(std::min(nMost, all.size()));
+std::span<const T> Last(std::span<const T> all, std::size_t nMost) {
+    return all.last(std::min(nMost, all.size()));
 }
 
 }  // namespace
@@ -25,7 +24,7 @@ int RiskReading::Step() const {
 }
 
 RiskReading ReadRisk(const std::vector<double>& closes, std::size_t nDays) {
-    const std::span<const double> last = Last(closes, nDays);
+    const std::span<const double> last = Last(std::span(closes), nDays);
     if (last.empty()) throw Error("no closes to read the risk from");
     const auto [lowest, highest] = std::ranges::minmax(last);
     return {last.size(), last.back(), lowest, highest};
@@ -45,11 +44,11 @@ RiseCount CountRises(const std::vector<Flow>& flows, double dLeastPercent) {
     return count;
 }
 
-PriceLevels LevelsOf(const MinuteDay& day, std::size_t nRecent) {
-    const auto ofDay = std::ranges::minmax(day.minutes, {}, &Minute::dPrice);
-    const auto recent = std::ranges::minmax(Last(day.minutes, nRecent), {}, &Minute::dPrice);
-    return {ofDay.max.dPrice, recent.max.dPrice, day.minutes.back().dPrice, recent.min.dPrice,
-            ofDay.min.dPrice};
+PriceLevels LevelsOf(std::span<const Minute> minutes, std::size_t nRecent) {
+    if (minutes.empty()) return {};
+    const auto ofDay = std::ranges::minmax(minutes, {}, &Minute::dPrice);
+    const auto recent = std::ranges::minmax(Last(minutes, nRecent), {}, &Minute::dPrice);
+    return {ofDay.max.dPrice, recent.max.dPrice, minutes.back().dPrice, recent.min.dPrice, ofDay.min.dPrice};
 }
 
 }  // namespace gallery

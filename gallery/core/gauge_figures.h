@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "flows.h"
@@ -44,7 +45,7 @@ struct PriceLevels {
     std::array<double, 5> FromTheTop() const { return {dDayHigh, dRecentHigh, dLast, dRecentLow, dDayLow}; }
 };
 
-/// "Recent" are the last nRecent minutes, at least 1, or all when there are fewer.
-PriceLevels LevelsOf(const MinuteDay& day, std::size_t nRecent);
+/// "Recent" are the last nRecent minutes, at least 1, or all when there are fewer. Of no minutes: all 0.
+PriceLevels LevelsOf(std::span<const Minute> minutes, std::size_t nRecent);
 
 }  // namespace gallery

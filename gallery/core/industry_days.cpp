@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
-#include <cstdio>
-#include <functional>
 #include <utility>
 
 #include "error.h"
@@ -44,7 +41,7 @@ public:
     void AddRow(std::size_t nRow, std::vector<IndustryDay>& days) const {
         const int nDate = DateOf(m_table.Field(nRow, m_nDate));
         if (nDate == 0) m_table.Refuse(nRow, m_nDate, "not a date: " + m_table.Field(nRow, m_nDate));
-        IndustryFlow flow{m_table.Gbk(nRow, m_nName), Amount(nRow, m_nInflow), Amount(nRow, m_nOutflow)};
+        MoneyFlow flow{m_table.Gbk(nRow, m_nName), Amount(nRow, m_nInflow), Amount(nRow, m_nOutflow)};
         if (flow.name.empty()) m_table.Refuse(nRow, m_nName, "empty");
         if (!days.empty() && nDate < days.back().nDate)
             m_table.Refuse(nRow, m_nDate, "earlier than the row above");
@@ -67,8 +64,8 @@ private:
 
 }  // namespace
 
-const IndustryFlow* IndustryDay::Find(const std::string& name) const {
-    const auto it = std::ranges::find(flows, name, &IndustryFlow::name);
+const MoneyFlow* IndustryDay::Find(const std::string& name) const {
+    const auto it = std::ranges::find(flows, name, &MoneyFlow::name);
     return it == flows.end() ? nullptr : &*it;
 }
 
@@ -85,25 +82,9 @@ std::vector<IndustryDay> IndustryDaysOf(const CsvTable& table) {
     return days;
 }
 
-std::vector<IndustryFlow> LargestFlows(std::vector<IndustryFlow> flows, std::size_t nMost) {
-    std::ranges::stable_sort(flows, std::ranges::greater(),
-                             [](const IndustryFlow& flow) { return flow.dInflow + flow.dOutflow; });
-    flows.resize(std::min(nMost, flows.size()));
-    return flows;
-}
-
 std::string DateInWords(int nDate) {
     return std::to_string(nDate / 10000) + "年" + std::to_string(nDate / 100 % 100) + "月" +
            std::to_string(nDate % 100) + "日";
-}
-
-std::string Describe(const IndustryFlow& flow) {
-    const double dNet = flow.dInflow - flow.dOutflow;
-    char szFigures[128];
-    std::snprintf(szFigures, sizeof szFigures, "流入%.2f亿元，流出%.2f亿元，净流%s%.2f亿元",
-                  flow.dInflow / kHundredMillion, flow.dOutflow / kHundredMillion, dNet < 0 ? "出" : "入",
-                  std::abs(dNet) / kHundredMillion);
-    return flow.name + "：" + szFigures;
 }
 
 }  // namespace gallery

@@ -1,10 +1,10 @@
 #include "minutes.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "error.h"
 #include "listing.h"
+#include "trading_day.h"
 
 namespace gallery {
 
@@ -16,13 +16,7 @@ int Clock(int nMinutes) { return nMinutes / kHour * 100 + nMinutes % kHour; }
 
 /// Minutes since midnight at which the given "HH:MM" starts; -1 when it is no minute of trading.
 int StartOfMinute(const std::string& text) {
-    int nHour = 0, nMinute = 0;
-    const char* const pText = text.data();
-    const bool bRead = text.size() == 5 && text[2] == ':' &&
-                       std::from_chars(pText, pText + 2, nHour).ptr == pText + 2 &&
-                       std::from_chars(pText + 3, pText + 5, nMinute).ptr == pText + 5;
-    if (!bRead || nMinute < 0 || nMinute >= kHour) return -1;
-    const int nStart = nHour * kHour + nMinute;
+    const int nStart = ParseClock(text).value_or(-1);
     const bool bMorning = nStart >= 9 * kHour + 30 && nStart < 11 * kHour + 30;
     const bool bAfternoon = nStart >= 13 * kHour && nStart < 15 * kHour;
     return bMorning || bAfternoon ? nStart : -1;
@@ -94,6 +88,18 @@ std::vector<MinuteDay> MinuteDaysOf(const CsvTable& table) {
     std::vector<MinuteDay> days;
     for (std::size_t n = 0; n < table.RowCount(); ++n) columns.AddRow(n, days);
     return days;
+}
+
+std::span<const Minute> FirstMinutes(const MinuteDay& day, int nMinutes) {
+    const auto end = std::ranges::upper_bound(day.minutes, EndOfMinute(nMinutes), {}, &Minute::nEnd);
+    return {day.minutes.begin(), end};
+}
+
+std::vector<std::string> NamesOf(const std::vector<MinuteDay>& days) {
+    std::vector<std::string> names;
+    names.reserve(days.size());
+    for (const MinuteDay& day : days) names.push_back(day.name);
+    return names;
 }
 
 }  // namespace gallery

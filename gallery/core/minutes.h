@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,15 @@ struct MinuteDay {
     std::vector<Minute> minutes;  ///< In the order of the day, at least one.
 };
 
+constexpr char kMinuteFile[] = "minutes_2019-02-01.csv";
+
 /// The stocks in the order of the file, at least one. Throws Error for a file that is missing or malformed.
 std::vector<MinuteDay> ReadMinuteDays(const std::filesystem::path& file);
 std::vector<MinuteDay> MinuteDaysOf(const CsvTable& table);  ///< None for a table without rows.
+
+/// What is known of it after so many minutes of the trading day, 0 to kMinutesOfDay.
+std::span<const Minute> FirstMinutes(const MinuteDay& day, int nMinutes);
+
+std::vector<std::string> NamesOf(const std::vector<MinuteDay>& days);
 
 }  // namespace gallery

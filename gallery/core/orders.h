@@ -9,10 +9,14 @@
 
 namespace gallery {
 
-/// What the orders were worth, yuan, above 0, in the order of the file. Throws Error for a file that is
-/// missing or malformed.
-std::vector<double> ReadOrderAmounts(const std::filesystem::path& file);
-std::vector<double> OrderAmountsOf(const CsvTable& table);
+struct Order {
+    int nMinute = 0;     ///< Of the trading day, in which it counts; 1 to kMinutesOfDay.
+    double dAmount = 0;  ///< Yuan, above 0.
+};
+
+/// In the order of the file. Throws Error for a file that is missing or malformed.
+std::vector<Order> ReadOrders(const std::filesystem::path& file);
+std::vector<Order> OrdersOf(const CsvTable& table);
 
 /// Classes of equal width, one above the other; the last one has no upper bound.
 struct ClassRule {
@@ -27,7 +31,8 @@ struct OrderClass {
     std::size_t nOrders = 0;
 };
 
-/// Every class, the empty ones too. Orders below the first class are in none.
-std::vector<OrderClass> CountByClass(const std::vector<double>& amounts, const ClassRule& rule);
+/// Every class, the empty ones too, with the orders of the day's first nMinutes. Orders below the first class
+/// are in none.
+std::vector<OrderClass> CountByClass(const std::vector<Order>& orders, const ClassRule& rule, int nMinutes);
 
 }  // namespace gallery

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "error.h"
 #include "ranks.h"
 
 namespace gallery {
@@ -25,7 +24,7 @@ std::vector<Stock> ReadStocks(const std::filesystem::path& file) { return Stocks
 
 std::vector<Stock> StocksOf(const CsvTable& table) {
     const ListingColumns listing(table);
-    const std::size_t nSectorId = table.Column("sector_id"), nSector = table.Column("sector"),
+    const std::size_t nIndustryId = table.Column("industry_id"), nIndustry = table.Column("industry"),
                       nCap = table.Column("market_cap_yuan"), nGrowth = table.Column("revenue_growth_pct"),
                       nPs = table.Column("ps"), nChange = table.Column("change_pct"),
                       nPrice = table.Column("price"), nHigh = table.Column("high"),
@@ -33,18 +32,17 @@ std::vector<Stock> StocksOf(const CsvTable& table) {
     std::vector<Stock> stocks;
     stocks.reserve(table.RowCount());
     for (std::size_t n = 0; n < table.RowCount(); ++n)
-        stocks.push_back({listing.Read(table, n), table.Integer(n, nSectorId), table.Gbk(n, nSector),
+        stocks.push_back({listing.Read(table, n), table.Integer(n, nIndustryId), table.Gbk(n, nIndustry),
                           table.Number(n, nCap), table.Number(n, nGrowth), table.Number(n, nPs),
                           table.Number(n, nChange), table.Number(n, nPrice), table.Number(n, nHigh),
                           table.Number(n, nLow), table.Number(n, nTurnover)});
     return stocks;
 }
 
-int SectorId(const std::vector<Stock>& stocks, const std::string& sector) {
+std::optional<int> IndustryId(const std::vector<Stock>& stocks, const std::string& industry) {
     const auto it =
-        std::ranges::find_if(stocks, [&](const Stock& s) { return s.sectorId && s.sector == sector; });
-    if (it == stocks.end()) throw Error("no stock of the data is in the sector to be marked");
-    return *it->sectorId;
+        std::ranges::find_if(stocks, [&](const Stock& s) { return s.industryId && s.industry == industry; });
+    return it == stocks.end() ? std::nullopt : it->industryId;
 }
 
 std::vector<std::optional<double>> LimitUpCoefficients(const std::vector<Stock>& stocks) {

@@ -11,8 +11,8 @@
 namespace gallery {
 
 struct Stock : Listing {
-    std::optional<int> sectorId;
-    std::string sector;                   ///< Code page 936.
+    std::optional<int> industryId;        ///< From 1.
+    std::string industry;                 ///< Code page 936.
     std::optional<double> marketCap;      ///< Yuan.
     std::optional<double> revenueGrowth;  ///< Percent.
     std::optional<double> priceToSales;
@@ -25,8 +25,8 @@ struct Stock : Listing {
 std::vector<Stock> ReadStocks(const std::filesystem::path& file);
 std::vector<Stock> StocksOf(const CsvTable& table);
 
-/// The id that the stocks give the named sector; an Error when no stock is in it.
-int SectorId(const std::vector<Stock>& stocks, const std::string& sector);
+/// The id that the stocks give the named industry; nothing when no stock is in it.
+std::optional<int> IndustryId(const std::vector<Stock>& stocks, const std::string& industry);
 
 /// Of each stock, how strongly the day pressed towards the limit, 0 to 100: the mean of the percentile of its
 /// turnover rate among the stocks that traded and of the place of the close in the day's range, the low being

@@ -11,7 +11,7 @@ using std::min;
 }  // namespace Gdiplus
 #include <gdiplus.h>
 
-#include "picture.h"
+#include <tavlon/picture.h>
 
 namespace {
 

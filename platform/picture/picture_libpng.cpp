@@ -1,7 +1,7 @@
 // PNG through libpng's one-call interface, which reports every damage as a plain failure.
 #include <png.h>
 
-#include "picture.h"
+#include <tavlon/picture.h>
 
 namespace {
 

@@ -1,7 +1,7 @@
 /// How two pictures of one scene differ.
 #pragma once
 
-#include <picture.h>
+#include <tavlon/picture.h>
 
 #include <cstdint>
 

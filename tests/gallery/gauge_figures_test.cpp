@@ -8,6 +8,7 @@
 #include "error_of.h"
 #include "gallery/core/index_closes.h"
 #include "gallery/core/orders.h"
+#include "gallery/core/trading_day.h"
 
 using namespace gallery;
 
@@ -17,14 +18,20 @@ std::vector<double> Closes(const std::string& rows) {
     return IndexClosesOf(CsvTable::Parse("date,close\n" + rows, "i.csv"));
 }
 
-std::vector<double> Amounts(const std::string& rows) {
-    return OrderAmountsOf(CsvTable::Parse("code,amount_yuan\n" + rows, "o.csv"));
+std::vector<Order> Orders(const std::string& rows) {
+    return OrdersOf(CsvTable::Parse("time,amount_yuan\n" + rows, "o.csv"));
 }
 
-MinuteDay DayOf(const std::vector<double>& prices) {
-    MinuteDay day;
-    for (const double dPrice : prices) day.minutes.push_back({.dPrice = dPrice});
-    return day;
+std::vector<Order> OrdersAtOnce(const std::vector<double>& amounts) {
+    std::vector<Order> orders;
+    for (const double dAmount : amounts) orders.push_back({1, dAmount});
+    return orders;
+}
+
+std::vector<Minute> MinutesOf(const std::vector<double>& prices) {
+    std::vector<Minute> minutes;
+    for (const double dPrice : prices) minutes.push_back({.dPrice = dPrice});
+    return minutes;
 }
 
 std::vector<Flow> Changes(const std::vector<std::optional<double>>& changes) {
@@ -86,18 +93,20 @@ TEST(PriceLevels, HighsAndLowsOfTheDayAndOfItsEnd) {
         std::size_t nRecent;
         std::array<double, 5> want;
     };
-    for (const Case& c : {Case{"inside the day", {9, 1, 7, 3, 5}, 3, {9, 7, 5, 3, 1}},
-                          Case{"the whole day", {9, 1, 5}, 3, {9, 9, 5, 1, 1}},
-                          Case{"a short day", {9, 1, 5}, 60, {9, 9, 5, 1, 1}},
-                          Case{"one minute", {4}, 60, {4, 4, 4, 4, 4}}}) {
+    for (const Case& c :
+         {Case{"inside the day", {9, 1, 7, 3, 5}, 3, {9, 7, 5, 3, 1}},
+          Case{"the whole day", {9, 1, 5}, 3, {9, 9, 5, 1, 1}},
+          Case{"a short day", {9, 1, 5}, 60, {9, 9, 5, 1, 1}}, Case{"one minute", {4}, 60, {4, 4, 4, 4, 4}},
+          Case{"before the first minute", {}, 60, {0, 0, 0, 0, 0}}}) {
         SCOPED_TRACE(c.pszName);
-        EXPECT_EQ(c.want, LevelsOf(DayOf(c.prices), c.nRecent).FromTheTop());
+        EXPECT_EQ(c.want, LevelsOf(MinutesOf(c.prices), c.nRecent).FromTheTop());
     }
 }
 
 TEST(OrderClasses, LowerBoundsBelongToThem) {
     const std::vector<OrderClass> classes =
-        CountByClass({99.9, 100, 149.9, 150, 250, 1e9, 200}, {.dFirst = 100, .dWidth = 50, .nClasses = 4});
+        CountByClass(OrdersAtOnce({99.9, 100, 149.9, 150, 250, 1e9, 200}),
+                     {.dFirst = 100, .dWidth = 50, .nClasses = 4}, kMinutesOfDay);
     ASSERT_EQ(4u, classes.size());
     const std::size_t nWant[] = {2, 1, 1, 2};  // what is below the first class is in none
     for (std::size_t n = 0; n < 4; ++n) {
@@ -117,8 +126,37 @@ TEST(IndexCloses, Rows) {
     EXPECT_EQ("i.csv: line 2, column 2 (close): not above 0", ErrorOf([] { Closes("2025-09-30,0\n"); }));
 }
 
-TEST(OrderAmounts, Rows) {
-    EXPECT_EQ((std::vector<double>{5, 2}), Amounts("a,5\nb,2\n"));
-    EXPECT_EQ("o.csv: line 2, column 2 (amount_yuan): empty", ErrorOf([] { Amounts("a,\n"); }));
-    EXPECT_EQ("o.csv: line 3, column 2 (amount_yuan): not above 0", ErrorOf([] { Amounts("a,1\nb,-1\n"); }));
+TEST(OrderClasses, OnlyTheMinutesSoFarCount) {
+    struct Case {
+        const char* pszTime;
+        int nFirst;  ///< After how many minutes it is counted.
+    };
+    for (const Case& c :
+         {Case{"00:00:00", 1}, Case{"09:25:02", 1}, Case{"09:30:59", 1}, Case{"09:31:00", 2},
+          Case{"11:29:59", 120}, Case{"11:30:00", 120}, Case{"12:59:59", 120}, Case{"13:00:00", 121},
+          Case{"14:59:59", 240}, Case{"15:00:00", 240}, Case{"23:59:59", 240}}) {
+        SCOPED_TRACE(c.pszTime);
+        const std::vector<Order> orders = Orders(c.pszTime + std::string(",5\n"));
+        const ClassRule rule{.dFirst = 1, .dWidth = 1, .nClasses = 1};
+        EXPECT_EQ(0u, CountByClass(orders, rule, c.nFirst - 1)[0].nOrders);
+        EXPECT_EQ(1u, CountByClass(orders, rule, c.nFirst)[0].nOrders);
+    }
+}
+
+TEST(Orders, MalformedRowsAreRefused) {
+    struct Case {
+        const char *pszRow, *pszWant;
+    };
+    for (const Case& c :
+         {Case{"09:30:00,", "column 2 (amount_yuan): empty"},
+          Case{"09:30:00,-1", "column 2 (amount_yuan): not above 0"},
+          Case{",1", "column 1 (time): not a time: "}, Case{"09:30,1", "column 1 (time): not a time: 09:30"},
+          Case{"24:00:00,1", "column 1 (time): not a time: 24:00:00"},
+          Case{"09:60:00,1", "column 1 (time): not a time: 09:60:00"},
+          Case{"09:30:60,1", "column 1 (time): not a time: 09:30:60"},
+          Case{"09:30.00,1", "column 1 (time): not a time: 09:30.00"},
+          Case{"09:30:000,1", "column 1 (time): not a time: 09:30:000"},
+          Case{"0x:30:00,1", "column 1 (time): not a time: 0x:30:00"}})
+        EXPECT_EQ(std::string("o.csv: line 3, ") + c.pszWant,
+                  ErrorOf([&] { Orders("09:30:00,5\n" + std::string(c.pszRow) + "\n"); }));
 }

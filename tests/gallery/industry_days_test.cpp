@@ -24,7 +24,7 @@ TEST(IndustryDays, ReadsTheDays) {
     ASSERT_EQ(2u, days.size());
     EXPECT_EQ(20260820, days[0].nDate);
     EXPECT_EQ(20260901, days[1].nDate);
-    const IndustryFlow* const pBank = days[0].Find("银行");
+    const MoneyFlow* const pBank = days[0].Find("银行");
     ASSERT_TRUE(pBank);
     EXPECT_EQ(1.5e8, pBank->dInflow);
     EXPECT_EQ(0.25e8, pBank->dOutflow);
@@ -59,7 +59,7 @@ TEST(IndustryDays, MalformedRowsAreRefused) {
 }
 
 TEST(IndustryDays, TheLargestComeFirst) {
-    const std::vector<IndustryFlow> flows{{"a", 1, 4}, {"b", 8, 1}, {"c", 5, 0}, {"d", 0, 7}};
+    const std::vector<MoneyFlow> flows{{"a", 1, 4}, {"b", 8, 1}, {"c", 5, 0}, {"d", 0, 7}};
     struct Case {
         std::size_t nMost;
         const char* pszWant;
@@ -67,7 +67,7 @@ TEST(IndustryDays, TheLargestComeFirst) {
     for (const Case& c : {Case{2, "bd"}, Case{3, "bda"}, Case{9, "bdac"}, Case{0, ""}}) {
         SCOPED_TRACE(c.nMost);
         std::string names;
-        for (const IndustryFlow& flow : LargestFlows(flows, c.nMost)) names += flow.name;
+        for (const MoneyFlow& flow : LargestFlows(flows, c.nMost)) names += flow.name;
         EXPECT_EQ(c.pszWant, names);
     }
 }

@@ -66,8 +66,10 @@ protected:
         EXPECT_TRUE(AfxPreTranslateMessage(&msg));
     }
 
-    const std::vector<PageEntry> m_pages{
-        {"a", "一", MakePlain}, {"b", "二", MakePlain}, {"c", "三", MakePlain}, {"broken", "坏", Fail}};
+    const std::vector<PageEntry> m_pages{{"a", "一", "1", MakePlain},
+                                         {"b", "二", "2", MakePlain},
+                                         {"c", "三", "3", MakePlain},
+                                         {"broken", "坏", "4", Fail}};
     MainWindow m_wnd{{}, m_pages};
 };
 

@@ -4,6 +4,7 @@
 #include "error_of.h"
 #include "gallery/core/minutes.h"
 #include "gallery/core/pace.h"
+#include "gallery/core/trading_day.h"
 #include "gallery/minute_feed.h"
 
 using namespace gallery;
@@ -89,6 +90,22 @@ TEST(Minutes, MalformedRowsAreRefused) {
          }) {
         SCOPED_TRACE(c.pszName);
         EXPECT_EQ(c.want, ErrorOf([&] { Days("000001,a,9,09:30,9,1,1,0\n" + c.row + "\n"); }));
+    }
+}
+
+TEST(Minutes, TheFirstOnesOfTheDay) {
+    MinuteDay day;
+    for (const int nEnd : {931, 933, 1130, 1301, 1500}) day.minutes.push_back({.nEnd = nEnd});
+    struct Case {
+        int nMinutes, nEnd;
+        std::size_t nWant;
+    };
+    for (const Case& c : {Case{0, 0, 0}, Case{1, 931, 1}, Case{2, 932, 1}, Case{3, 933, 2}, Case{30, 1000, 2},
+                          Case{119, 1129, 2}, Case{120, 1130, 3}, Case{121, 1301, 4}, Case{239, 1459, 4},
+                          Case{240, 1500, 5}}) {
+        SCOPED_TRACE(c.nMinutes);
+        EXPECT_EQ(c.nEnd, EndOfMinute(c.nMinutes));
+        EXPECT_EQ(c.nWant, FirstMinutes(day, c.nMinutes).size());
     }
 }
 

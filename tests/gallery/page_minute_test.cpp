@@ -26,18 +26,19 @@ constexpr char kRows[] =
 class MinutePageTest : public testing::Test {
 protected:
     void SetUp() override {
-        m_dir = ScratchDir();
-        std::filesystem::create_directories(m_dir);
-        std::ofstream(m_dir / "minutes_2019-02-01.csv", std::ios::binary) << kRows;
-        Open(std::nullopt);
+        m_settings.dataDir = ScratchDir();
+        std::filesystem::create_directories(m_settings.dataDir);
+        std::ofstream(m_settings.dataDir / "minutes_2019-02-01.csv", std::ios::binary) << kRows;
+        Open();
     }
     void TearDown() override {
         m_pPage.reset();
-        std::filesystem::remove_all(m_dir);
+        std::filesystem::remove_all(m_settings.dataDir);
     }
 
-    void Open(std::optional<int> liveSpeed) {
-        m_pPage = MakeMinutePage({m_dir, liveSpeed});
+    /// The page anew, as when the user comes back to it.
+    void Open() {
+        m_pPage = MakeMinutePage(m_settings);
         ASSERT_TRUE(m_pPage->CreateOn(m_host, CRect(0, 0, 400, 300)));
     }
     HWND Chart() const { return ControlIn(*m_pPage, kChartId); }
@@ -56,7 +57,7 @@ protected:
     }
     bool IsReplaying() const { return ::KillTimer(m_pPage->m_hWnd, 1) != FALSE; }
 
-    std::filesystem::path m_dir;
+    PageSettings m_settings;
     HostWindow m_host;
     std::unique_ptr<Page> m_pPage;
 };
@@ -129,7 +130,67 @@ TEST_F(MinutePageTest, SpaceStartsAndPausesTheReplay) {
 
 TEST_F(MinutePageTest, LiveFromTheStart) {
     const Shot whole = ShotOfChart();
-    Open(1);
+    m_settings.pReplay = std::make_shared<Replay>(1, ::GetTickCount());
+    Open();
     EXPECT_NE(whole, ShotOfChart());
     EXPECT_TRUE(IsReplaying());
+}
+
+TEST_F(MinutePageTest, ARunningReplayTakesTheMinutesThatAreDue) {
+    const Shot whole = ShotOfChart();
+    Press('N');
+    const Shot first = ShotOfChart();
+    Press('N', 3);
+    const Shot fourth = ShotOfChart();
+    const DWORD dwLongAgo = ::GetTickCount() - 60000;  // counts as a second
+    struct Case {
+        const char* pszName;
+        int nSpeed;
+        const Shot& want;
+        bool bGoesOn;
+    };
+    for (const Case& c : {Case{"three a second", 3, fourth, true}, Case{"all", 240, whole, false}}) {
+        SCOPED_TRACE(c.pszName);
+        m_settings.pReplay = std::make_shared<Replay>(c.nSpeed, dwLongAgo);
+        m_settings.pReplay->Tick(dwLongAgo + 1000 / c.nSpeed + 1);
+        Open();
+        EXPECT_EQ(first, ShotOfChart());
+        m_pPage->SendMessage(WM_TIMER, 1);
+        EXPECT_EQ(c.want, ShotOfChart());
+        EXPECT_EQ(c.bGoesOn, IsReplaying());
+    }
+    Press(VK_SPACE);
+    EXPECT_NE(whole, ShotOfChart()) << "from the start";
+    EXPECT_TRUE(IsReplaying());
+}
+
+TEST_F(MinutePageTest, AnotherPageGoesOnWhereTheOneBeforeWas) {
+    Press('N', 3);
+    const Shot third = ShotOfChart();
+    Open();
+    EXPECT_EQ(third, ShotOfChart());
+    EXPECT_FALSE(IsReplaying());
+    Press(VK_SPACE);
+    Open();
+    EXPECT_EQ(third, ShotOfChart());
+    EXPECT_TRUE(IsReplaying());
+}
+
+TEST_F(MinutePageTest, TheStockIsTheOneChosen) {
+    const Shot first = ShotOfChart();
+    Press('2');
+    const Shot second = ShotOfChart();
+    struct Case {
+        const char* pszChosen;
+        const Shot& want;
+    };
+    EXPECT_EQ("000002", m_settings.pChoice->strStock);
+    for (const Case& c : {Case{"000002", second}, Case{"000001", first}, Case{"601398", first}}) {
+        m_settings.pChoice->strStock = c.pszChosen;
+        Open();
+        EXPECT_EQ(c.want, ShotOfChart());
+        EXPECT_EQ(c.pszChosen, m_settings.pChoice->strStock) << "the user chose nothing";
+    }
+    Press('1');
+    EXPECT_EQ("000001", m_settings.pChoice->strStock);
 }

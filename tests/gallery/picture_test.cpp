@@ -1,5 +1,5 @@
 #include <gtest/gtest.h>
-#include <picture.h>
+#include <tavlon/picture.h>
 
 #include <fstream>
 #include <string>

@@ -12,7 +12,7 @@ using namespace gallery;
 namespace {
 
 constexpr char kStockHeader[] =
-    "code,name,market,sector_id,sector,market_cap_yuan,revenue_growth_pct,ps,change_pct,price,high,low,"
+    "code,name,market,industry_id,industry,market_cap_yuan,revenue_growth_pct,ps,change_pct,price,high,low,"
     "turnover_rate_pct\n";
 constexpr char kFlowHeader[] =
     "code,name,market,price,change_pct,main_net_yuan,super_large_net_pct,large_net_pct,medium_net_pct,"
@@ -49,14 +49,14 @@ TEST(Stocks, ReadsARow) {
     ASSERT_EQ(2u, stocks.size());
     EXPECT_EQ('Z', stocks[0].cMarket);
     EXPECT_EQ("万  科", stocks[0].name);  // narrow literals are code page 936 here
-    EXPECT_EQ(20, stocks[0].sectorId);
+    EXPECT_EQ(20, stocks[0].industryId);
     EXPECT_EQ(5e9, stocks[0].marketCap);
     EXPECT_EQ(51.8, stocks[0].revenueGrowth);
     EXPECT_EQ(std::nullopt, stocks[0].priceToSales);
     EXPECT_EQ((Values{7.5, 25.8, 26, 23.9, 1.1}), (Values{stocks[0].change, stocks[0].price, stocks[0].high,
                                                           stocks[0].low, stocks[0].turnoverRate}));
     EXPECT_EQ('H', stocks[1].cMarket);
-    EXPECT_EQ(std::nullopt, stocks[1].sectorId);
+    EXPECT_EQ(std::nullopt, stocks[1].industryId);
     EXPECT_EQ(std::nullopt, stocks[1].marketCap);
     EXPECT_EQ(1.5, stocks[1].priceToSales);
     EXPECT_EQ(std::nullopt, stocks[1].change);
@@ -71,17 +71,17 @@ TEST(Stocks, MalformedRowsAreRefused) {
           Case{"code with a letter", "00000a,a,SZ,1",
                "s.csv: line 2, column 1 (code): not six digits: 00000a"},
           Case{"unknown market", "000001,a,BJ,1", "s.csv: line 2, column 3 (market): neither SH nor SZ: BJ"},
-          Case{"sector id with a fraction", "000001,a,SZ,1.5",
-               "s.csv: line 2, column 4 (sector_id): not a whole number: 1.5"}}) {
+          Case{"industry id with a fraction", "000001,a,SZ,1.5",
+               "s.csv: line 2, column 4 (industry_id): not a whole number: 1.5"}}) {
         SCOPED_TRACE(c.pszName);
         EXPECT_EQ(c.pszWant, ErrorOf([&] { Stocks(std::string(c.pszStart) + ",s,1,1,1,1,1,1,1,1\n"); }));
     }
 }
 
-TEST(Stocks, SectorIdIsLookedUpByName) {
+TEST(Stocks, IndustryIdIsLookedUpByName) {
     const std::vector<Stock> stocks = Stocks("000001,a,SZ,,s,1,1,1,,,,,\n000002,a,SZ,7,s,1,1,1,,,,,\n");
-    EXPECT_EQ(7, SectorId(stocks, "s"));
-    EXPECT_NE("no error", ErrorOf([&] { SectorId(stocks, "t"); }));
+    EXPECT_EQ(7, IndustryId(stocks, "s"));
+    EXPECT_EQ(std::nullopt, IndustryId(stocks, "t"));
 }
 
 TEST(Ranks, Percentiles) {

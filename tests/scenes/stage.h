@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include <picture.h>
+#include <tavlon/picture.h>
 
 #include <vector>
 

@@ -10,11 +10,12 @@ public:
     /// Adds a point, or replaces the one of the same market byte and code (case-sensitive). FALSE when 3000
     /// are held, even if the item is one of them. Any values are taken. Does not repaint.
     int SetData(tagPointRadarItemData item);
-    /// Points of block nId (-1: none) turn yellow and go on top. Keeps 254 bytes of the name; null is empty.
-    /// Repaints.
+    /// Points of block nId turn yellow and go on top (-1: none do, unless records have that block). Keeps 254
+    /// bytes of the name; null is empty. Repaints.
     void ActiveBlockByInfo(int nId, const char* pszName);
-    void SetGateBkColor(COLORREF clr);
+    void SetGateBkColor(COLORREF clr);  ///< Fill of the gate; a setter as those of CScatterCtrl.
 
+    /// @cond The library's own charts build on this.
 protected:
     /// pszInfoFormat takes code, name, y and x of a point.
     CBlockRadarCtrl(const ScatterStyle& style, const ControlNames& names, const char* pszTitle,
@@ -33,4 +34,5 @@ protected:
 private:
     COLORREF m_clrBlockText = RGB(192, 192, 0);  ///< The active-block line.
     const char* m_pszInfoFormat;
+    /// @endcond
 };

@@ -16,18 +16,20 @@ class CMyTabControl;
 /// Click:  WM_LBUTTONDOWN on a tab makes it active, repaints and posts WM_COMMAND to the parent (wParam the
 ///         control id, lParam 0), on the active tab as well. The parent then asks GetActiveId; it may destroy
 ///         the strip or itself there. The second press of a double click does nothing.
-/// Text:   captions are centred, with an ellipsis where they are too wide. Those of TAB_VERT_CHAMFER are
-/// written
+/// Text:   captions are centred, with an ellipsis where they are too wide. Those of TAB_VERT_CHAMFER run
 ///         downwards, always bold, in rows as high as a character of a 12 pixels high font, ":" in the last
 ///         row that there is room for telling that the caption goes on.
 /// Style:  TAB_VERT_NONE shows captions without tabs, a bar at the left edge in the active tab's fill marking
 ///         the active one; from left to right, or downwards in a strip too narrow for four characters.
 class TAVLON_API CProxy_TabCtrl {
 public:
+    ///@{
+    /// A control without a window; copies share it. See proxies.h.
     CProxy_TabCtrl();
     CProxy_TabCtrl(const CProxy_TabCtrl&) = default;
     CProxy_TabCtrl& operator=(const CProxy_TabCtrl&) = default;
     virtual ~CProxy_TabCtrl();
+    ///@}
     /// See proxies.h. Keeps the style; a value that is none of the four is taken as TAB_HORZ_CHAMFER.
     int Create(CWnd* pParent, CRect rect, UINT nID, tagTabCtrlStyle style);
 
@@ -35,7 +37,7 @@ public:
     /// bytes of the caption are kept; ids need not differ.
     int AddItem(tagTabItemData item);
     void ClearContent();  ///< Removes all tabs, none is active then; repaints.
-    int GetActiveId();    ///< Id of the active tab; -1 when there is none.
+    int GetActiveId();    ///< Id of the active tab; -1 when there is none: give tabs other ids.
     /// Activates the first tab of that id without telling the parent; repaints. Nothing when there is none.
     void SelectTabById(int id);
     void SetBackColor(COLORREF clr);           ///< Strip behind the tabs, default black; repaints.

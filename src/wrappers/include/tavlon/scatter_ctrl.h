@@ -18,20 +18,20 @@ class PairExtent;
 /// and a context menu. Hosts use the charts that derive from it.
 ///
 /// Mouse:  in zoom mode a rectangle dragged with the left button becomes the shown range, unless a division
-///         of the axis would become 0.1 or less (y), 0.01 or less (x). In drag mode the hand moves the shown
-///         range inside the full range. The mouse is not captured; when it leaves the window, the button
-///         counts as released, without a zoom.
+///         of the axis, an eighth of it, would become 0.1 or less (y), 0.01 or less (x); each axis is decided
+///         by itself. In drag mode the hand moves the shown range inside the full range. The mouse is not
+///         captured; when it leaves the window, the button counts as released, without a zoom.
 /// Menu:   commands 103 show all, 100 zoom mode, 102 drag mode, 104 big points, 105 small points; they can be
 ///         sent as WM_COMMAND as well.
 /// Thread: use from the thread that created the window.
 class TAVLON_API CScatterCtrl : public CWnd, protected ScatterState {
 public:
-    using CCursor = CScatterCursor;
+    using CCursor = CScatterCursor;  ///< Of the zoom and the drag mode.
 
-    ~CScatterCtrl() override;
+    ~CScatterCtrl() override;  ///< Destroys the window, if it still exists.
 
     /// Makes the visible child window; FALSE without a parent, when it cannot be made, or when there is one
-    /// already.
+    /// already. See proxies.h.
     int Create(CWnd* pParent, CRect rect, UINT nID);
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;  ///< Names the window class.
 
@@ -40,14 +40,16 @@ public:
     void ClearData();  ///< Removes all points; repaints.
 
     // Setters store and repaint. What lies below the points (border, gate, grid) shows its new look when the
-    // points are next drawn anew.
-    void SetBorderColor(COLORREF clr);
+    // points are next drawn anew: after SetData, ClearData, ActiveBlockByInfo, a new size, zoom, drag or
+    // another point size.
+    void SetBorderColor(COLORREF clr);               ///< Border, where the chart has one.
     void SetCoordinateShaftFontSize(int nHeight);    ///< Axis number height in pixels, default 12.
     void SetCoordinateShaftLineColor(COLORREF clr);  ///< Axis lines and the line under the info strip.
     void SetFontColor(COLORREF clr);                 ///< Axis titles, title, update time and info text.
-    void SetGirdVisble(bool bVisible);
-    void SetUpdateTime(CTime& time);  ///< Shows "更新时间:..." in local time.
+    void SetGirdVisble(bool bVisible);               ///< Shows or hides the grid.
+    void SetUpdateTime(CTime& time);                 ///< Shows "更新时间:..." in local time.
 
+    /// @cond The library's own charts build on this.
 protected:
     /// The style and the names outlive the chart.
     CScatterCtrl(const ScatterStyle& style, const ControlNames& names, const char* pszTitle);
@@ -125,4 +127,5 @@ private:
     std::unique_ptr<HitIndex> m_pHits;  ///< Finds the shown point under the mouse.
     CCursor m_cursorEnlarge;            ///< Zoom mode.
     CCursor m_cursorDrag;               ///< Drag mode.
+    /// @endcond
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The one include of a host: the framework subset, the interface records, the value radar and the wrappers.
 #include <tavlon/export.h>
 #include <tavlon/framework.h>

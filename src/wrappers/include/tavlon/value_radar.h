@@ -13,16 +13,18 @@
 /// Gate:   the area right of and below one corner, empty until SetGate and while the corner is not finite.
 ///         Each computation of the range empties it again, so call SetGate after Play; while the chart has no
 ///         window, or one too low to be laid out, the range is computed later, and SetGate has to come later.
+///         It is kept with the points: call it before they are painted, or ActiveBlockByInfo after it.
 /// Usage:  Init, SetData for each stock, ActiveBlockByInfo, Play, SetGate, SetUpdateTime.
 /// Thread: use from the thread that created the window.
 class TAVLON_API CRoePointCtrl : public CBlockRadarCtrl {
 public:
-    CRoePointCtrl();
-    ~CRoePointCtrl() override;
+    CRoePointCtrl();            ///< Without a window.
+    ~CRoePointCtrl() override;  ///< Destroys the window, if it still exists.
 
-    void SetGate(double dX, double dY);  ///< Gate corner; none when not finite.
+    void SetGate(double dX, double dY);  ///< Gate corner; none when not finite. A setter as CScatterCtrl's.
     void SetTitle(CString& strTitle);    ///< Chart title, default "价值雷达". Does not repaint.
 
+    /// @cond The library's own charts build on this.
 protected:
     void CaclCoordinateShaftMaxMinXY() override;  ///< Empties the gate.
     ShaftTitles AxisTitles() const override;
@@ -31,4 +33,5 @@ protected:
 private:
     double m_dGateX;  ///< Corner of the gate; it starts empty.
     double m_dGateY;
+    /// @endcond
 };
