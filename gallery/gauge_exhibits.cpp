@@ -137,8 +137,8 @@ LadderExhibit::LadderExhibit(const std::filesystem::path& dataDir) {
 }
 
 const MinuteDay& LadderExhibit::DayOf(const std::string& strStock) const {
-    const auto it = std::ranges::find(m_days, strStock, &MinuteDay::code);
-    return it == m_days.end() ? m_days[m_nUsual] : *it;
+    const MinuteDay* const pDay = FindDay(m_days, strStock);
+    return pDay ? *pDay : m_days[m_nUsual];
 }
 
 void LadderExhibit::Feed(Control& ladder, const std::string& strStock, int nMinutes) const {
@@ -153,6 +153,7 @@ std::vector<std::string> LadderExhibit::Notes(const std::string& strStock, const
     const std::string strWhat =
         "推算，非公布价位：" + day.name + "(" + day.code + ")2019年2月1日各分钟末的成交价";
     const std::string strMinutes = std::to_string(kRecentMinutes) + "分钟最高、最低，当前为";
+    if (replay.Minutes() == 0) return {strWhat, "开盘前还没有成交价，控件以0.00表示", InWords(replay)};
     if (replay.IsUnderWay())
         return {strWhat, "中期压力、支撑为开盘以来最高、最低，短期为最近" + strMinutes + "最新价",
                 InWords(replay)};

@@ -22,7 +22,7 @@ class GaugesPage : public LivePage {
 public:
     explicit GaugesPage(const PageSettings& settings)
         : LivePage(settings.pReplay),
-          m_strStock(settings.pChoice->strStock),
+          m_strStock(settings.pChoice->strMinutesOf),
           m_risk{RiskExhibit(settings.dataDir), kFirstId, {}},
           m_position{PositionExhibit(settings.dataDir), kFirstId + 1, {}},
           m_ladder{LadderExhibit(settings.dataDir), kFirstId + 2, {}},

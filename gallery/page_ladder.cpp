@@ -11,7 +11,9 @@ namespace {
 class LadderPage : public ChartPage<LadderExhibit::Control, LivePage> {
 public:
     explicit LadderPage(const PageSettings& settings)
-        : ChartPage(settings.pReplay), m_exhibit(settings.dataDir), m_strStock(settings.pChoice->strStock) {
+        : ChartPage(settings.pReplay),
+          m_exhibit(settings.dataDir),
+          m_strStock(settings.pChoice->strMinutesOf) {
         SetNotes(m_exhibit.Notes(m_strStock, TheReplay()));
     }
 

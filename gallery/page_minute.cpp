@@ -22,7 +22,7 @@ public:
     MinutePage(std::vector<MinuteDay> days, const PageSettings& settings)
         : ChartPage(settings.pReplay),
           m_days(std::move(days)),
-          m_nStock(PositionOf(settings.pChoice->strStock)),
+          m_nStock(PositionOf(settings.pChoice->strMinutesOf)),
           m_pChoice(settings.pChoice) {
         Tell();
     }
@@ -75,7 +75,7 @@ void MinutePage::Feed(CProxy_ChartOL&) {
 }
 
 bool MinutePage::OnKey(UINT nKey) {
-    if (nKey < '1' || nKey >= '1' + m_days.size()) return LivePage::OnKey(nKey);
+    if (nKey < '1' || nKey >= '1' + std::min<std::size_t>(m_days.size(), 9)) return LivePage::OnKey(nKey);
     const auto nPosition = static_cast<int>(nKey - '1');
     m_stocks.SelectTabById(nPosition);
     ChooseStock(nPosition);
@@ -97,7 +97,7 @@ std::size_t MinutePage::PositionOf(const std::string& code) const {
 void MinutePage::ChooseStock(int nPosition) {
     const auto nStock = static_cast<std::size_t>(nPosition);
     if (nPosition < 0 || nStock >= m_days.size()) return;
-    m_pChoice->strStock = m_days[nStock].code;
+    m_pChoice->Pick(m_days[nStock].code, true);
     if (std::exchange(m_nStock, nStock) == nStock) return;
     Feed(TheChart());
     Tell();

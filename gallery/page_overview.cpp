@@ -19,6 +19,7 @@ namespace gallery {
 
 namespace {
 
+constexpr char kUsualStock[] = "000001";
 constexpr std::size_t kSectorsShown = 8;
 constexpr int kStripHeight = 22;
 constexpr int kNumberHeight = 9;      // of the radars' axes: there is little room
@@ -70,7 +71,7 @@ private:
     void Pick(const std::string& code);
     void ShowMinutes();
     void ShowPeers();
-    const MinuteDay* DayOf(const std::string& code) const;
+    void TellOfStock();
     void Tell(std::string strNews);
 
     std::shared_ptr<Choice> m_pChoice;
@@ -80,6 +81,7 @@ private:
     std::vector<Sector> m_sectors;
     std::vector<MinuteDay> m_days;
     std::vector<StockFlow> m_flows;
+    Peers m_peers;  ///< What the pies show.
     std::vector<IndustryDay> m_moneyDays;
     RiskExhibit m_riskExhibit;
     PositionExhibit m_positionExhibit;
@@ -119,7 +121,8 @@ OverviewPage::OverviewPage(const PageSettings& settings, const std::vector<Stock
       m_radarExhibit(stocks),
       m_pointsExhibit(stocks),
       m_starsExhibit(settings.dataDir),
-      m_sectors(LargestSectors(ReadWheelSectors(settings.dataDir), kSectorsShown)),
+      m_sectors(
+          LargestSectors(ReadWheelSectors(settings.dataDir), kSectorsShown, settings.pChoice->strIndustry)),
       m_days(ReadMinuteDays(settings.dataDir / kMinuteFile)),
       m_flows(ReadMoneyOfStocks(settings.dataDir)),
       m_moneyDays(ReadMoneyDays(settings.dataDir)),
@@ -134,9 +137,10 @@ OverviewPage::OverviewPage(const PageSettings& settings, const std::vector<Stock
 BOOL OverviewPage::CreateControls() {
     if (!CreateRadars() || !CreateMarket() || !CreateGauges()) return FALSE;
     if (!CreateNavigation(m_stocks, *this, StocksId, TAB_HORZ_CHAMFER, NamesOf(m_days), 0)) return FALSE;
-    if (DayOf(m_pChoice->strStock)) m_strMinutesOf = m_pChoice->strStock;
+    if (FindDay(m_days, m_pChoice->strMinutesOf)) m_strMinutesOf = m_pChoice->strMinutesOf;
     ShowMinutes();
     ShowPeers();
+    if (!m_pChoice->strStock.empty()) TellOfStock();
     return TRUE;
 }
 
@@ -196,7 +200,7 @@ void OverviewPage::PlaceRow(CRect rcRow, std::initializer_list<std::pair<Control
 }
 
 bool OverviewPage::OnKey(UINT nKey) {
-    if (nKey < '1' || nKey >= '1' + m_days.size()) return LivePage::OnKey(nKey);
+    if (nKey < '1' || nKey >= '1' + std::min<std::size_t>(m_days.size(), 9)) return LivePage::OnKey(nKey);
     Pick(m_days[nKey - '1'].code);
     return true;
 }
@@ -204,6 +208,7 @@ bool OverviewPage::OnKey(UINT nKey) {
 void OverviewPage::OnStock() {
     const int nPosition = m_stocks.GetActiveId();
     if (nPosition >= 0) Pick(m_days[static_cast<std::size_t>(nPosition)].code);
+    GetDlgItem(MinuteId)->SetFocus();  // the arrow keys are for the chart
 }
 
 LRESULT OverviewPage::OnStockPicked(WPARAM, LPARAM) {
@@ -224,32 +229,38 @@ LRESULT OverviewPage::OnSectorChosen(WPARAM, LPARAM) {
 }
 
 void OverviewPage::Pick(const std::string& code) {
-    m_pChoice->strStock = code;
-    const bool bMinutes = DayOf(code) != nullptr;
-    if (bMinutes) m_strMinutesOf = code;
-    ShowMinutes();
+    const bool bMinutes = FindDay(m_days, code) != nullptr;
+    m_pChoice->Pick(code, bMinutes);
+    if (bMinutes && std::exchange(m_strMinutesOf, code) != code) ShowMinutes();
     ShowPeers();
-    const Peers peers = PeersOf(m_flows, code, kMostListed);
-    const bool bMoney = peers.nStock >= 0;
-    if (bMoney) SelectInPies(m_pies, *GetDlgItem(PiesId), peers.nStock);
-    Tell("已选" + code + (bMoney ? peers.flows[static_cast<std::size_t>(peers.nStock)].name : std::string()) +
-         (bMinutes ? "：分时、压力支撑为该股" : "：没有该股的分时数据") +
-         (bMoney ? "，饼图为" + peers.industry + "行业个股" : "，没有该股的资金数据"));
+    if (m_peers.nStock >= 0) SelectInPies(m_pies, *GetDlgItem(PiesId), m_peers.nStock);
+    TellOfStock();
 }
 
 void OverviewPage::ShowMinutes() {
-    const MinuteDay& day = *DayOf(m_strMinutesOf);
+    const MinuteDay& day = *FindDay(m_days, m_strMinutesOf);
     m_stocks.SelectTabById(static_cast<int>(&day - m_days.data()));
     m_feed.Start(day);
     m_feed.FeedUntil(TheReplay().Until());
     m_ladderExhibit.Feed(m_ladder, day.code, TheReplay().Minutes());
 }
 
-/// The picked stock among its industry, or, when there is no money flow for it, the one with minutes.
+/// The picked stock among its industry; when there is no money flow for it, the one with minutes, or the
+/// usual one.
 void OverviewPage::ShowPeers() {
-    Peers peers = PeersOf(m_flows, m_pChoice->strStock, kMostListed);
-    if (peers.nStock < 0) peers = PeersOf(m_flows, m_strMinutesOf, kMostListed);
-    if (peers.nStock >= 0) FeedPies(m_pies, peers.flows);
+    for (const std::string& code : {m_pChoice->strStock, m_strMinutesOf, std::string(kUsualStock)}) {
+        m_peers = PeersOf(m_flows, code, kMostListed);
+        if (m_peers.nStock >= 0) return FeedPies(m_pies, m_peers.flows);
+    }
+}
+
+void OverviewPage::TellOfStock() {
+    const std::string& code = m_pChoice->strStock;
+    const auto nStock = static_cast<std::size_t>(m_peers.nStock);
+    const bool bMoney = m_peers.nStock >= 0 && m_peers.codes[nStock] == code;
+    Tell("已选" + code + (code == m_strMinutesOf ? "：分时、压力支撑为该股" : "：没有该股的分时数据") +
+         (bMoney ? "，饼图为" : "，没有该股的资金数据，饼图仍为") + m_peers.industry +
+         "个股(2025年10月17日，全部资金)");
 }
 
 void OverviewPage::ShowReached() {
@@ -257,11 +268,6 @@ void OverviewPage::ShowReached() {
     m_ladderExhibit.Feed(m_ladder, m_strMinutesOf, TheReplay().Minutes());
     m_histogramExhibit.Feed(m_histogram, TheReplay().Minutes());
     Tell(m_strNews);
-}
-
-const MinuteDay* OverviewPage::DayOf(const std::string& code) const {
-    const auto it = std::ranges::find(m_days, code, &MinuteDay::code);
-    return it == m_days.end() ? nullptr : &*it;
 }
 
 void OverviewPage::Tell(std::string strNews) {

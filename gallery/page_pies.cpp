@@ -1,5 +1,6 @@
 // The pies on one day's money: of the largest industries, or of a stock and the largest of its industry. A
 // list selects in both pies.
+#include "core/minutes.h"
 #include "page_industries.h"
 #include "pages.h"
 
@@ -19,7 +20,7 @@ class PiesPage : public IndustriesPage<CProxy_PieChartCtrl> {
 public:
     explicit PiesPage(const PageSettings& settings)
         : IndustriesPage(settings), m_dataDir(settings.dataDir), m_industries(Shown()) {
-        Tell(kInvitation);
+        Tell();
     }
 
 protected:
@@ -38,12 +39,14 @@ private:
     void ShowKind(int nKind);
     void ShowStocks();
     std::string ListInWords() const;
-    void Tell(const char* pszLast);
+    void Tell();
 
     std::filesystem::path m_dataDir;
     std::vector<MoneyFlow> m_industries;
     Peers m_peers;
     int m_nKind = kIndustries;
+    bool m_bNoMoney = false;  ///< Of the stock that was to be shown.
+    bool m_bTip = true;       ///< The last selection could open its tip.
     CProxy_TabCtrl m_kinds;
 };
 
@@ -56,7 +59,7 @@ BOOL PiesPage::CreateControls() {
     if (!IndustriesPage::CreateControls()) return FALSE;
     if (!CreateNavigation(m_kinds, *this, kKindsId, TAB_HORZ_CHAMFER, {"行业", "个股"}, kIndustries))
         return FALSE;
-    if (!TheChoice().strStock.empty()) ShowKind(kStocks);
+    if (TheChoice().bMoneyOfStock) ShowKind(kStocks);
     return TRUE;
 }
 
@@ -76,14 +79,19 @@ bool PiesPage::OnKey(UINT nKey) {
 int PiesPage::Chosen() const { return m_nKind == kStocks ? m_peers.nStock : IndustriesPage::Chosen(); }
 
 void PiesPage::SetChosen(int nPlace) {
-    if (m_nKind != kStocks) return IndustriesPage::SetChosen(nPlace);
-    m_peers.nStock = nPlace;
-    TheChoice().strStock = m_peers.codes[static_cast<std::size_t>(nPlace)];
+    if (m_nKind != kStocks) {
+        TheChoice().bMoneyOfStock = false;
+        return IndustriesPage::SetChosen(nPlace);
+    }
+    if (std::exchange(m_peers.nStock, nPlace) == nPlace)
+        return;  // shown as the chosen one: no choice of the user's
+    const std::string& code = m_peers.codes[static_cast<std::size_t>(nPlace)];
+    TheChoice().Pick(code, FindDay(ReadMinuteDays(m_dataDir / kMinuteFile), code) != nullptr);
 }
 
 void PiesPage::Mark(CProxy_PieChartCtrl& pies, int nPlace) {
-    const bool bTip = SelectInPies(pies, *ChartWindow(), nPlace);
-    Tell(bTip ? kInvitation : "已选中。另一饼图的提示窗还开着，这里开不了提示窗");
+    m_bTip = SelectInPies(pies, *ChartWindow(), nPlace);
+    Tell();
 }
 
 /// The industries stay when there is no money flow for the stock to be shown.
@@ -91,9 +99,10 @@ void PiesPage::ShowKind(int nKind) {
     if (nKind == m_nKind) return;
     if (nKind == kStocks) return ShowStocks();
     m_nKind = nKind;
+    m_bNoMoney = TheChoice().bMoneyOfStock = false;
     Show(m_industries);
     m_kinds.SelectTabById(nKind);
-    Tell(kInvitation);
+    Tell();
 }
 
 void PiesPage::ShowStocks() {
@@ -102,13 +111,15 @@ void PiesPage::ShowStocks() {
         PeersOf(ReadMoneyOfStocks(m_dataDir), strPicked.empty() ? kUsualStock : strPicked, kMostListed);
     if (peers.nStock < 0) {
         m_kinds.SelectTabById(kIndustries);
-        return Tell("所选个股2025年10月17日没有资金数据，仍显示行业");
+        m_bNoMoney = true;
+        return Tell();
     }
     m_peers = std::move(peers);
     m_nKind = kStocks;
+    m_bNoMoney = false;
     Show(m_peers.flows);
     m_kinds.SelectTabById(kStocks);
-    Tell(kInvitation);
+    Tell();
 }
 
 std::string PiesPage::ListInWords() const {
@@ -117,7 +128,10 @@ std::string PiesPage::ListInWords() const {
            std::to_string(Shown().size()) + "只";
 }
 
-void PiesPage::Tell(const char* pszLast) {
+void PiesPage::Tell() {
+    const char* pszLast = kInvitation;
+    if (m_bNoMoney) pszLast = "所选个股2025年10月17日没有资金数据，仍显示行业";
+    if (!m_bTip) pszLast = "已选中。另一饼图的提示窗还开着，这里开不了提示窗";
     SetNotes({ListInWords() + "。上圆流入，下圆流出，半径与合计成正比",
               "流入、流出为全部资金，不只主力，提示窗中的“主力”是控件自带的字样", pszLast});
 }

@@ -83,7 +83,7 @@ void WheelPage::ShowCount(int nPosition) {
 }
 
 void WheelPage::Choose(std::size_t nPosition) {
-    m_shown = LargestSectors(m_sectors, kCounts[nPosition]);
+    m_shown = LargestSectors(m_sectors, kCounts[nPosition], m_pChoice->strIndustry);
     Tell(kInvitation);
 }
 
@@ -101,7 +101,8 @@ LRESULT WheelPage::OnSectorChosen(WPARAM, LPARAM) {
 
 void WheelPage::Tell(std::string strAnswer) {
     SetNotes({"2025年9月22日收盘，" + std::to_string(m_sectors.size()) + "个行业中成交额最大的" +
-                  std::to_string(m_shown.size()) + "个，从十二点钟右侧起顺时针由大到小。1、2、3键换数量",
+                  std::to_string(m_shown.size()) + (m_pChoice->strIndustry.empty() ? "个" : "个(含所选)") +
+                  "，从十二点钟右侧起顺时针由大到小。1、2、3键换数量",
               "主力占盘比(%)＝行业内个股主力净买入之和÷成交额之和×100，负数为净卖出", std::move(strAnswer)});
 }
 

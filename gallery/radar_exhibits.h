@@ -21,7 +21,8 @@ std::vector<Stock> ReadRadarDay(const std::filesystem::path& dataDir);
 /// A radar on the stocks of that day, those of one industry marked.
 class BlockRadarExhibit {
 public:
-    static constexpr char kFirstIndustry[] = "生物制药";  ///< Marked until another one is chosen.
+    static constexpr char kFirstIndustry[] =
+        "半导体";  ///< Marked until another one is chosen: the wheel's first.
 
     std::vector<std::string> Notes() const { return m_notes; }
     /// How many of an industry's stocks the radar shows.

@@ -14,6 +14,8 @@ namespace gallery {
 
 namespace {
 
+constexpr double kLargest = 1e15;  // no figure of a market is; every one fits a float and is far from its end
+
 constexpr std::size_t kChunk = 65536;  // bytes that are read at a time
 constexpr std::size_t kLinesAReport = 256;
 
@@ -121,6 +123,7 @@ std::optional<double> CsvTable::Number(std::size_t nRow, std::size_t nColumn) co
     if (text.empty()) return std::nullopt;
     const std::optional<double> number = ParseWhole<double>(text);
     if (!number || !std::isfinite(*number)) Refuse(nRow, nColumn, "not a number: " + text);
+    if (std::abs(*number) > kLargest) Refuse(nRow, nColumn, "too large: " + text);
     return number;
 }
 

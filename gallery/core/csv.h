@@ -26,7 +26,7 @@ public:
     const std::string& Field(std::size_t nRow, std::size_t nColumn) const;
     std::string Gbk(std::size_t nRow, std::size_t nColumn) const;
     std::optional<double> Number(std::size_t nRow,
-                                 std::size_t nColumn) const;  ///< Finite; nothing when empty.
+                                 std::size_t nColumn) const;  ///< At most 1e15; nothing when empty.
     std::optional<int> Integer(std::size_t nRow, std::size_t nColumn) const;
 
     /// Ends in an Error about this field.

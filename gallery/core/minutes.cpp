@@ -95,6 +95,11 @@ std::span<const Minute> FirstMinutes(const MinuteDay& day, int nMinutes) {
     return {day.minutes.begin(), end};
 }
 
+const MinuteDay* FindDay(const std::vector<MinuteDay>& days, const std::string& code) {
+    const auto it = std::ranges::find(days, code, &MinuteDay::code);
+    return it == days.end() ? nullptr : &*it;
+}
+
 std::vector<std::string> NamesOf(const std::vector<MinuteDay>& days) {
     std::vector<std::string> names;
     names.reserve(days.size());

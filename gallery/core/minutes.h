@@ -34,6 +34,8 @@ std::vector<MinuteDay> MinuteDaysOf(const CsvTable& table);  ///< None for a tab
 /// What is known of it after so many minutes of the trading day, 0 to kMinutesOfDay.
 std::span<const Minute> FirstMinutes(const MinuteDay& day, int nMinutes);
 
+/// Nothing when there is no stock of that code.
+const MinuteDay* FindDay(const std::vector<MinuteDay>& days, const std::string& code);
 std::vector<std::string> NamesOf(const std::vector<MinuteDay>& days);
 
 }  // namespace gallery

@@ -52,6 +52,16 @@ std::vector<Sector> LargestSectors(std::vector<Sector> sectors, std::size_t nMos
     return sectors;
 }
 
+std::vector<Sector> LargestSectors(const std::vector<Sector>& sectors, std::size_t nMost,
+                                   const std::string& wanted) {
+    std::vector<Sector> largest = LargestSectors(sectors, nMost);
+    const auto it = std::ranges::find(sectors, wanted, &Sector::name);
+    const bool bMissing =
+        it != sectors.end() && std::ranges::find(largest, wanted, &Sector::name) == largest.end();
+    if (bMissing && !largest.empty()) largest.back() = *it;
+    return largest;
+}
+
 std::string Describe(const Sector& sector) {
     char szFigures[128];
     std::snprintf(szFigures, sizeof szFigures, "个股%d只，主力净买入%.2f亿元，成交额%.2f亿元", sector.nStocks,

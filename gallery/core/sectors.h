@@ -28,6 +28,10 @@ inline double MainShare(const Sector& sector) { return sector.dMainNet / sector.
 /// are no more.
 std::vector<Sector> LargestSectors(std::vector<Sector> sectors, std::size_t nMost);
 
+/// The same with the wanted one, in place of the last when it is smaller than they are.
+std::vector<Sector> LargestSectors(const std::vector<Sector>& sectors, std::size_t nMost,
+                                   const std::string& wanted);
+
 /// Number of stocks, net buying and turnover in one line, code page 936.
 std::string Describe(const Sector& sector);
 

@@ -192,9 +192,9 @@ TEST_F(GaugePagesTest, TheClassThatWasChosenStaysHighlighted) {
 
 TEST_F(GaugePagesTest, TheLadderIsThatOfTheStockChosen) {
     const Shot usual = Look(*Open(MakeLadderPage), kChartId);
-    m_settings.pChoice->strStock = "600000";
+    m_settings.pChoice->strMinutesOf = "600000";
     EXPECT_NE(usual, Look(*Open(MakeLadderPage), kChartId));
-    m_settings.pChoice->strStock = "601398";
+    m_settings.pChoice->strMinutesOf = "601398";
     EXPECT_EQ(usual, Look(*Open(MakeLadderPage), kChartId)) << "of which there are no minutes";
 }
 

@@ -182,11 +182,13 @@ TEST_F(MinutePageTest, TheStockIsTheOneChosen) {
     const Shot second = ShotOfChart();
     struct Case {
         const char* pszChosen;
+        bool bMinutes;
         const Shot& want;
     };
     EXPECT_EQ("000002", m_settings.pChoice->strStock);
-    for (const Case& c : {Case{"000002", second}, Case{"000001", first}, Case{"601398", first}}) {
-        m_settings.pChoice->strStock = c.pszChosen;
+    for (const Case& c :
+         {Case{"000001", true, first}, Case{"000002", true, second}, Case{"601398", false, second}}) {
+        m_settings.pChoice->Pick(c.pszChosen, c.bMinutes);
         Open();
         EXPECT_EQ(c.want, ShotOfChart());
         EXPECT_EQ(c.pszChosen, m_settings.pChoice->strStock) << "the user chose nothing";

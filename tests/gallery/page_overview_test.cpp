@@ -7,7 +7,6 @@
 #include "gallery/data_dir.h"
 #include "gallery/pages.h"
 #include "gallery/stock_radar.h"
-#include "gallery/wheel_feed.h"
 #include "scatter/radar_window.h"
 #include "wrappers/host.h"
 
@@ -18,6 +17,7 @@ namespace {
 constexpr UINT kRadarId = 100, kPointsId = 101, kWheelId = 103, kMinuteId = 104, kPiesId = 105,
                kLadderId = 109, kHistogramId = 110, kStocksId = 111;
 constexpr UINT kLastId = kStocksId;
+constexpr char kNoMinutes[] = "999999";
 
 /// A host with one page in it, as large as the page.
 class Stage {
@@ -69,7 +69,8 @@ private:
 
 PageSettings Chosen(const std::string& industry, const std::string& stock = {}) {
     PageSettings settings{.dataDir = FindDataDir()};
-    settings.pChoice->strIndustry = industry, settings.pChoice->strStock = stock;
+    settings.pChoice->strIndustry = industry;
+    if (!stock.empty()) settings.pChoice->Pick(stock, stock != kNoMinutes);
     return settings;
 }
 
@@ -125,11 +126,14 @@ TEST(Overview, ASectorOfTheWheelIsMarkedInBothRadars) {
     const PageSettings settings = Chosen("");
     Stage stage("overview", settings);
     const Shot radar = stage.Look(kRadarId), points = stage.Look(kPointsId);
-    stage.ThePage().SendMessage(kSectorChosen);  // as the wheel does; its first sector is selected
-    EXPECT_EQ("半导体", settings.pChoice->strIndustry);
+    CPoint pt(204, 330);  // the dot of the second sector, on the page
+    ::MapWindowPoints(stage.ThePage().m_hWnd, stage.Control(kWheelId), &pt, 1);
+    for (const UINT nMessage : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) stage.Send(kWheelId, nMessage, pt);
+    HostWindow::Pump();
+    EXPECT_EQ("元器件", settings.pChoice->strIndustry);
     EXPECT_NE(radar, stage.Look(kRadarId));
     EXPECT_NE(points, stage.Look(kPointsId));
-    Stage fresh("overview", Chosen("半导体"));
+    Stage fresh("overview", Chosen("元器件"));
     EXPECT_EQ(fresh.Look(kRadarId), stage.Look(kRadarId));
     EXPECT_EQ(fresh.Look(kPointsId), stage.Look(kPointsId));
     Stage own("radar", settings), other("radar", Chosen("银行"));
@@ -178,7 +182,7 @@ TEST(Overview, TheReplayMovesOnlyWhatHasTheDaysFigures) {
 
 TEST(PiesPage, APickedStockIsShownAmongItsIndustry) {
     constexpr UINT kChart = 100;
-    Stage plain("pies"), bank("pies", Chosen("", "600000")), unknown("pies", Chosen("", "999999"));
+    Stage plain("pies"), bank("pies", Chosen("", "600000")), unknown("pies", Chosen("", kNoMinutes));
     EXPECT_NE(plain.Look(kChart), bank.Look(kChart));
     EXPECT_EQ(plain.Look(kChart), unknown.Look(kChart)) << "there is no money of it: industries";
 }

@@ -173,13 +173,17 @@ TEST(Sectors, TheLargestComeFirst) {
     struct Case {
         const char* pszName;
         std::size_t nMost;
+        const char* pszWanted;
         const char* pszWant;
     };
-    for (const Case& c : {Case{"some", 2, "bd"}, Case{"of equal ones the earlier", 3, "bda"},
-                          Case{"more than there are", 9, "bdac"}, Case{"none", 0, ""}}) {
+    for (const Case& c :
+         {Case{"some", 2, "", "bd"}, Case{"of equal ones the earlier", 3, "", "bda"},
+          Case{"more than there are", 9, "", "bdac"}, Case{"none", 0, "a", ""},
+          Case{"the wanted one is there", 2, "b", "bd"}, Case{"it takes the last place", 2, "c", "bc"},
+          Case{"there is none of that name", 2, "x", "bd"}}) {
         SCOPED_TRACE(c.pszName);
         std::string names;
-        for (const Sector& sector : LargestSectors(sectors, c.nMost)) names += sector.name;
+        for (const Sector& sector : LargestSectors(sectors, c.nMost, c.pszWanted)) names += sector.name;
         EXPECT_EQ(c.pszWant, names);
     }
 }
