@@ -14,6 +14,9 @@ using WindowId = std::uint32_t;  ///< 0: no window.
 struct Size {
     int width = 0, height = 0;
 };
+struct Point {
+    int x = 0, y = 0;
+};
 struct Rect {
     int x = 0, y = 0, width = 0, height = 0;
 };

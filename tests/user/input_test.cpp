@@ -70,6 +70,25 @@ TEST_F(UserInput, CaptureTakesEverythingWithoutQuestions) {
     EXPECT_EQ(nullptr, GetCapture());
 }
 
+TEST_F(UserInput, AHeldButtonIsSeenWhenItsMessageIsRead) {
+    const auto states = [] {
+        const auto bits = [](SHORT nState) { return nState & 0xfffe; };
+        return std::pair<int, int>{bits(GetKeyState(VK_LBUTTON)), bits(GetAsyncKeyState(VK_LBUTTON))};
+    };
+    using Bits = std::pair<int, int>;
+    SetCursorPos(150, 180);
+    Pump();
+    EXPECT_EQ((Bits{0, 0}), states());
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    EXPECT_EQ((Bits{0, 0x8000}), states());
+    Pump();
+    EXPECT_EQ((Bits{0xff80, 0x8000}), states());
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    EXPECT_EQ((Bits{0xff80, 0}), states());
+    Pump();
+    EXPECT_EQ((Bits{0, 0}), states());
+}
+
 TEST_F(UserInput, DisabledChildLetsItsParentHaveTheClick) {
     EnableWindow(m_hChild, FALSE);
     m_recorder.Only({WM_LBUTTONDOWN});

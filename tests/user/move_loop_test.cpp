@@ -41,6 +41,20 @@ TEST_F(UserMoveLoop, QuitEndsItAndReachesTheOuterLoop) {
     EXPECT_TRUE(bKept || GetModuleHandle("user32.dll")) << "the system's own loop may swallow it";
 }
 
+TEST_F(UserMoveLoop, WhatTheHandDidBeforeItBeginsIsDragged) {
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    Pump();
+    m_recorder.On(WM_LBUTTONDBLCLK,
+                  [this](const Message&) { return Drag(), 0; });  // the fixture pressed first
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    SetCursorPos(240, 250);
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    Pump();
+    RECT rc{};
+    GetWindowRect(m_hPopup, &rc);
+    EXPECT_EQ((std::pair<LONG, LONG>{210, 220}), (std::pair<LONG, LONG>{rc.left, rc.top}));
+}
+
 TEST_F(UserMoveLoop, AnExceptionOutOfAHandlerEndsIt) {
     // They do not pass through the system's own window code; where that is in use there is nothing to test.
     if (GetModuleHandle("user32.dll")) GTEST_SKIP();

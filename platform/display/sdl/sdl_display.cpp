@@ -164,7 +164,7 @@ public:
     bool Poll(Event& event) override {
         SDL_Event raw;
         while (SDL_PollEvent(&raw))
-            if (TranslateSdlEvent(raw, event)) return true;
+            if (m_events.Translate(raw, event)) return true;
         return false;
     }
     void Wait(int milliseconds) override {
@@ -191,6 +191,7 @@ private:
         m_closed.pop_front();
     }
 
+    SdlEvents m_events;
     std::map<WindowId, SDL_Window*> m_windows;
     std::deque<SDL_Window*> m_closed;  ///< Hidden, the oldest first.
     std::map<WindowId, WindowId> m_owners;

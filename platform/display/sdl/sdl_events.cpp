@@ -2,8 +2,6 @@
 
 #include <SDL2/SDL.h>
 
-#include <string_view>
-
 #include "display/sdl/sdl_keys.h"
 
 namespace tavlon::display {
@@ -16,15 +14,6 @@ void PlacePointer(Uint32 window, int x, int y, Event& event) {
     if (SDL_Window* target = SDL_GetWindowFromID(window)) SDL_GetWindowPosition(target, &left, &top);
     event.x = left + x;
     event.y = top + y;
-}
-
-/// A move's own position may belong to another window than the event names while the mouse is being captured.
-void PlaceMovedPointer(const SDL_MouseMotionEvent& raw, Event& event) {
-    const char* driver = SDL_GetCurrentVideoDriver();
-    if (driver && std::string_view(driver) == "x11")
-        SDL_GetGlobalMouseState(&event.x, &event.y);
-    else
-        PlacePointer(raw.windowID, raw.x, raw.y, event);
 }
 
 bool TranslateWindowEvent(const SDL_WindowEvent& raw, Event& event) {
@@ -54,23 +43,17 @@ bool TranslateWindowEvent(const SDL_WindowEvent& raw, Event& event) {
     }
 }
 
-bool TranslateButton(const SDL_MouseButtonEvent& raw, Event& event) {
-    event.kind = EventKind::Button;
-    event.window = raw.windowID;
-    event.down = raw.state == SDL_PRESSED;
-    PlacePointer(raw.windowID, raw.x, raw.y, event);
-    switch (raw.button) {
+/// Negative for buttons we have no use for.
+int CodeOf(Uint8 button) {
+    switch (button) {
         case SDL_BUTTON_LEFT:
-            event.code = 0;
-            return true;
+            return 0;
         case SDL_BUTTON_RIGHT:
-            event.code = 1;
-            return true;
+            return 1;
         case SDL_BUTTON_MIDDLE:
-            event.code = 2;
-            return true;
+            return 2;
         default:
-            return false;
+            return -1;
     }
 }
 
@@ -101,16 +84,45 @@ bool TranslateText(const SDL_TextInputEvent& raw, Event& event) {
 
 }  // namespace
 
-bool TranslateSdlEvent(const SDL_Event& raw, Event& event) {
+bool SdlEvents::KnowsPlaceOf(Uint32 mouse) const { return m_fromDesktop && mouse != SDL_TOUCH_MOUSEID; }
+
+bool SdlEvents::TranslateMove(const SDL_MouseMotionEvent& raw, Event& event) const {
+    if (KnowsPlaceOf(raw.which)) return false;
+    event.kind = EventKind::PointerMove;
+    event.window = raw.windowID;
+    PlacePointer(raw.windowID, raw.x, raw.y, event);
+    return true;
+}
+
+bool SdlEvents::TranslateButton(const SDL_MouseButtonEvent& raw, Event& event) const {
+    event.kind = EventKind::Button;
+    event.window = raw.windowID;
+    event.code = CodeOf(raw.button);
+    event.down = raw.state == SDL_PRESSED;
+    if (KnowsPlaceOf(raw.which))
+        event.x = m_pointer.x, event.y = m_pointer.y;
+    else
+        PlacePointer(raw.windowID, raw.x, raw.y, event);
+    return event.code >= 0;
+}
+
+bool SdlEvents::TranslateQueued(const SDL_Event& raw, Event& event) {
+    const std::optional<X11Pointer> pointer = QueuedX11Pointer(raw);
+    if (!pointer) return false;
+    m_pointer = pointer->at;
+    event.kind = EventKind::PointerMove;
+    event.x = m_pointer.x;
+    event.y = m_pointer.y;
+    return !pointer->button;
+}
+
+bool SdlEvents::Translate(const SDL_Event& raw, Event& event) {
     event = Event{};
     switch (raw.type) {
         case SDL_WINDOWEVENT:
             return TranslateWindowEvent(raw.window, event);
         case SDL_MOUSEMOTION:
-            event.kind = EventKind::PointerMove;
-            event.window = raw.motion.windowID;
-            PlaceMovedPointer(raw.motion, event);
-            return true;
+            return TranslateMove(raw.motion, event);
         case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:
             return TranslateButton(raw.button, event);
@@ -125,7 +137,7 @@ bool TranslateSdlEvent(const SDL_Event& raw, Event& event) {
         case SDL_TEXTINPUT:
             return TranslateText(raw.text, event);
         default:
-            return false;
+            return TranslateQueued(raw, event);
     }
 }
 

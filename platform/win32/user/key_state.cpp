@@ -22,7 +22,7 @@ void Apply(KeyState& state, bool down) {
 
 bool ValidKey(int key) { return key >= 0 && key < 256; }
 
-SHORT Answer(bool high, bool low) { return static_cast<SHORT>((high ? 0x8000 : 0) | (low ? 1 : 0)); }
+SHORT Answer(int held, bool low) { return static_cast<SHORT>(held | (low ? 1 : 0)); }
 
 }  // namespace
 
@@ -53,13 +53,13 @@ using namespace tavlon::win32;
 SHORT GetKeyState(int nKey) {
     if (!ValidKey(nKey)) return 0;
     const KeyState& state = g_read[static_cast<std::size_t>(nKey)];
-    return Answer(state.down, state.toggled);
+    return Answer(state.down ? 0xff80 : 0, state.toggled);
 }
 
 SHORT GetAsyncKeyState(int nKey) {
     if (!ValidKey(nKey)) return 0;
     KeyState& state = g_now[static_cast<std::size_t>(nKey)];
-    const SHORT answer = Answer(state.down, state.pressed);
+    const SHORT answer = Answer(state.down ? 0x8000 : 0, state.pressed);
     state.pressed = false;
     return answer;
 }

@@ -12,7 +12,7 @@ namespace {
 
 struct Drag {
     HWND window;
-    POINT start;      ///< Pointer position at the press, on the screen.
+    POINT start;      ///< Of the press, on the screen.
     RECT frameStart;  ///< On the screen.
     bool going = true;
 };
@@ -39,6 +39,12 @@ void DragTo(Drag& drag, POINT pointer) {
     SendMessageA(drag.window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect));
     rect = ClampedRect(rect);
     PlaceAt(drag.window, {rect.left, rect.top});
+}
+
+/// Where the press was; the pointer may be further by now.
+POINT LastMessagePoint() {
+    const DWORD point = GetMessagePos();
+    return {static_cast<SHORT>(LOWORD(point)), static_cast<SHORT>(HIWORD(point))};
 }
 
 void Cancel(Drag& drag) {
@@ -113,12 +119,11 @@ bool PassQuitOn(const MSG& msg) {
 
 void RunMoveLoop(HWND hWnd) {
     const Window* window = WindowOf(hWnd);
+    const POINT press = LastMessagePoint();
     if (!window || !IsKeyDown(VK_LBUTTON) || window->Has(WS_MAXIMIZE)) return;
-    POINT pointer{};
-    GetCursorPos(&pointer);
     AskSizeLimits(hWnd);
     if (!IsWindow(hWnd)) return;
-    Drag drag{hWnd, pointer, FrameNow(hWnd)};
+    Drag drag{hWnd, press, FrameNow(hWnd)};
     SendMessageA(hWnd, WM_ENTERSIZEMOVE, 0, 0);
     if (!IsWindow(hWnd)) return;
     SetCapture(hWnd);
