@@ -4,7 +4,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 . scripts/common.sh
 . scripts/wine.sh scripts/test_install_windows.sh "$@"
 . scripts/install_checks.sh
-trap 'rm -rf "$work"; wineserver -k || true' EXIT
+trap 'rm -rf "$work"; kill_wine "$WINEPREFIX"' EXIT
 
 quietly scripts/package.sh windows
 (cd "$work" && cmake -E tar xf "$OLDPWD/build/packages/tavlon-$version-windows-x86_64.zip")

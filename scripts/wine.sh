@@ -19,7 +19,12 @@ if [ ! -f "$WINEPREFIX/.tavlon-ready" ] || [ -n "$(find scripts -name 'wine-*.re
     touch "$WINEPREFIX/.tavlon-ready"
 fi
 
-trap 'wineserver -k || true' EXIT
+# kill_wine PREFIX...: ends what still runs there.
+kill_wine() {
+    local prefix
+    for prefix in "$@"; do WINEPREFIX=$prefix wineserver -k || true; done
+}
+trap 'kill_wine "$WINEPREFIX"' EXIT
 
 # Unsmoothed text, in the system's own programs as in ours: the pictures are compared pixel by pixel.
 export FONTCONFIG_FILE=$PWD/scripts/wine-fonts.conf

@@ -1,7 +1,7 @@
 #include "scenes/menu_show.h"
 
-#include <algorithm>
 #include <cstring>
+#include <map>
 
 namespace scenes {
 
@@ -16,17 +16,31 @@ bool IsMenuWindow(HWND hWnd) {
     return std::strcmp(name, "#32768") == 0 && IsWindowVisible(hWnd);
 }
 
-/// Menu windows lie above all others, the newest on top.
-Levels OpenLevels() {
-    Levels levels;
+std::map<HMENU, HWND> OpenMenus() {
+    std::map<HMENU, HWND> open;
     for (HWND hWnd = GetTopWindow(nullptr); hWnd; hWnd = GetWindow(hWnd, GW_HWNDNEXT))
-        if (IsMenuWindow(hWnd)) levels.push_back(hWnd);
-    std::reverse(levels.begin(), levels.end());
+        if (IsMenuWindow(hWnd)) open[reinterpret_cast<HMENU>(SendMessageA(hWnd, MN_GETHMENU, 0, 0))] = hWnd;
+    return open;
+}
+
+/// From the outermost menu to the submenu that is open, and so on: the windows' own order may change at any
+/// time on a desktop.
+Levels OpenLevels(HMENU menu) {
+    const std::map<HMENU, HWND> open = OpenMenus();
+    Levels levels;
+    while (menu && open.contains(menu)) {
+        levels.push_back(open.at(menu));
+        HMENU inner = nullptr;
+        for (int i = GetMenuItemCount(menu) - 1; i >= 0; --i)
+            if (const HMENU submenu = GetSubMenu(menu, i); open.contains(submenu)) inner = submenu;
+        menu = inner;
+    }
     return levels;
 }
 
 /// What the owner does, step by step, while its menu is open.
 struct Walk {
+    HMENU menu;
     std::vector<int> keys;
     Look look;
     std::size_t next = 0;
@@ -38,7 +52,7 @@ struct Walk {
             PostMessageA(owner, kStep, 0, 0);
             return;
         }
-        const Levels levels = OpenLevels();
+        const Levels levels = OpenLevels(menu);
         for (HWND hWnd : levels) UpdateWindow(hWnd);
         look(levels);
         EndMenu();
@@ -109,7 +123,7 @@ std::vector<int> AnyWalk(Dice& dice, int most) {
 }
 
 void ShowMenu(HMENU hMenu, POINT at, std::vector<int> keys, Look look) {
-    Walk walk{std::move(keys), std::move(look)};
+    Walk walk{hMenu, std::move(keys), std::move(look)};
     const HWND owner = CreateOwner(walk);
     SetForegroundWindow(owner);
     PostMessageA(owner, kStep, 0, 0);

@@ -96,15 +96,32 @@ void DrawMenu(HDC hdc, const MenuPopup& popup) {
     SelectObject(hdc, hOld);
 }
 
-LRESULT CALLBACK MenuWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ERASEBKGND) return TRUE;
-    if (message == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
-    if (message != WM_PAINT) return DefWindowProcA(hWnd, message, wParam, lParam);
+LRESULT Paint(HWND hWnd) {
     PAINTSTRUCT paint;
     const HDC hdc = BeginPaint(hWnd, &paint);
     if (const MenuPopup* popup = OpenMenuPopup(hWnd)) DrawMenu(hdc, *popup);
     EndPaint(hWnd, &paint);
     return 0;
+}
+
+LRESULT ShownMenu(HWND hWnd) {
+    const MenuPopup* popup = OpenMenuPopup(hWnd);
+    return reinterpret_cast<LRESULT>(popup ? popup->menu : nullptr);
+}
+
+LRESULT CALLBACK MenuWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            return TRUE;
+        case WM_MOUSEACTIVATE:
+            return MA_NOACTIVATE;
+        case WM_PAINT:
+            return Paint(hWnd);
+        case MN_GETHMENU:
+            return ShownMenu(hWnd);
+        default:
+            return DefWindowProcA(hWnd, message, wParam, lParam);
+    }
 }
 
 /// In one direction. Ends at the other point when it does not fit behind the first and does before the other.
