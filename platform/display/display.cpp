@@ -1,5 +1,6 @@
 #include "display/display.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
@@ -22,8 +23,11 @@ std::unique_ptr<Display> CreateDisplay() {
     const char* setting = std::getenv("TAVLON_DISPLAY");
     const std::string_view wanted = setting ? setting : "auto";
     const bool tryDesktop = wanted == "sdl" || (wanted != "headless" && DesktopPresent());
-    if (tryDesktop)
+    if (tryDesktop) {
         if (auto desktop = CreateSdlDisplay()) return desktop;
+        // A program that seems to wait for nobody is hard to understand.
+        std::fputs("Tavlon: the desktop cannot be reached; windows are not shown\n", stderr);
+    }
     return CreateHeadlessDisplay();
 }
 

@@ -102,7 +102,8 @@ public:
 };
 
 /// The display TAVLON_DISPLAY asks for: "headless", "sdl", or "auto" (default: a desktop window system when
-/// one can be reached, else headless). TAVLON_SCREEN=WxH sets the size of the headless screen.
+/// one can be reached, else headless; stderr tells of a desktop that should have been there).
+/// TAVLON_SCREEN=WxH sets the size of the headless screen.
 std::unique_ptr<Display> CreateDisplay();
 
 }  // namespace tavlon::display

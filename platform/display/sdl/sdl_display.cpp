@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <deque>
 #include <map>
+#include <string_view>
 
 #include "display/sdl/sdl_events.h"
 
@@ -61,6 +62,12 @@ void CopyRows(const Picture& from, SDL_Surface& to, const SDL_Rect& rect) {
         SDL_ConvertPixels(rect.w, 1, SDL_PIXELFORMAT_RGB888, source, from.stride * 4, to.format->format,
                           row + static_cast<std::ptrdiff_t>(rect.x) * to.format->BytesPerPixel, to.pitch);
     }
+}
+
+/// SDL falls back to drivers that show nothing; only who names one wants it.
+bool ShowsWindows() {
+    const std::string_view driver = SDL_GetCurrentVideoDriver();
+    return SDL_GetHint(SDL_HINT_VIDEODRIVER) || (driver != "offscreen" && driver != "dummy");
 }
 
 class SdlDisplay final : public Display {
@@ -204,6 +211,10 @@ std::unique_ptr<Display> CreateSdlDisplay() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return nullptr;
+    if (!ShowsWindows()) {
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+        return nullptr;
+    }
     SDL_StartTextInput();
     return std::make_unique<SdlDisplay>();
 }
