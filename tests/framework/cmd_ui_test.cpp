@@ -58,13 +58,10 @@ TEST_F(FrameworkCmdUI, UpdateHandlersSetTheMarksOfARealMenu) {
     EXPECT_FALSE(Has(7, MF_GRAYED | MF_DISABLED));  // an entry with a submenu is never greyed
     EXPECT_EQ(0u, m_menu.GetSubMenu(7)->GetMenuState(0, MF_BYPOSITION) & MF_GRAYED);
     EXPECT_EQ(nullptr, m_wnd.m_pParent);  // the popup is not being run
-}
-
-TEST_F(FrameworkCmdUI, EntriesThatNobodyHandlesAreGreyedOnRequest) {
     m_wnd.m_bAutoDisable = TRUE;
     Open();
     EXPECT_FALSE(Has(4, MF_GRAYED));
-    EXPECT_TRUE(Has(5, MF_GRAYED));
+    EXPECT_TRUE(Has(5, MF_GRAYED));  // nobody handles it
 }
 
 TEST_F(FrameworkCmdUI, OddEntriesChangeNothing) {

@@ -1,3 +1,4 @@
+#include "support/print.h"
 #include "test_window.h"
 
 namespace {
@@ -24,6 +25,10 @@ TEST(FrameworkGdi, SelectingGivesTheObjectSelectedBefore) {
     CPen* pStock = dc.SelectObject(&pen1);
     EXPECT_NE(nullptr, pStock);
     EXPECT_EQ(::GetStockObject(BLACK_PEN), pStock->m_hObject);
+    EXPECT_EQ(RUNTIME_CLASS(CPen), pStock->GetRuntimeClass());
+    EXPECT_EQ(RUNTIME_CLASS(CBrush), dc.SelectStockObject(NULL_BRUSH)->GetRuntimeClass());
+    EXPECT_EQ(RUNTIME_CLASS(CFont), CGdiObject::FromHandle(::GetStockObject(SYSTEM_FONT))->GetRuntimeClass());
+    EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
     EXPECT_EQ(&pen1, dc.SelectObject(&pen2));  // the owner itself, no stand-in
     EXPECT_EQ(&pen2, dc.GetCurrentPen());
     EXPECT_EQ(&pen2, dc.SelectStockObject(NULL_PEN));
@@ -56,62 +61,38 @@ TEST(FrameworkGdi, ObjectsOwnTheirHandles) {
     EXPECT_FALSE(pen.Attach(nullptr));
 }
 
-TEST(FrameworkGdi, StandInsHaveTheClassOfTheirHandle) {
-    MemoryDC dc(4, 4);
-    struct Case {
-        int nStock;
-        CRuntimeClass* pWant;
-    };
-    for (const Case& c : {Case{NULL_BRUSH, RUNTIME_CLASS(CBrush)}, Case{WHITE_PEN, RUNTIME_CLASS(CPen)},
-                          Case{SYSTEM_FONT, RUNTIME_CLASS(CFont)}}) {
-        CGdiObject* pBefore = dc.SelectStockObject(c.nStock);
-        ASSERT_NE(nullptr, pBefore);
-        EXPECT_EQ(c.pWant, pBefore->GetRuntimeClass()) << c.nStock;
-        EXPECT_EQ(::GetStockObject(c.nStock), dc.SelectObject(pBefore)->m_hObject) << c.nStock;
-        EXPECT_EQ(c.pWant, CGdiObject::FromHandle(::GetStockObject(c.nStock))->GetRuntimeClass()) << c.nStock;
-    }
-    EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
-}
-
 TEST(FrameworkGdi, SolidFillLeavesItsColourAsBackground) {
     MemoryDC dc(8, 8);
     dc.FillSolidRect(CRect(0, 0, 8, 8), RGB(10, 20, 30));
     dc.FillSolidRect(2, 2, 3, 3, RGB(200, 100, 50));
     EXPECT_EQ(RGB(200, 100, 50), dc.GetBkColor());
-    EXPECT_EQ(RGB(10, 20, 30), dc.GetPixel(5, 2));
-    EXPECT_EQ(RGB(200, 100, 50), dc.GetPixel(CPoint(4, 4)));
     dc.Draw3dRect(CRect(0, 0, 8, 8), RGB(1, 1, 1), RGB(2, 2, 2));
-    EXPECT_EQ(RGB(1, 1, 1), dc.GetPixel(0, 0));
-    EXPECT_EQ(RGB(2, 2, 2), dc.GetPixel(7, 7));
-    EXPECT_EQ(RGB(2, 2, 2), dc.GetPixel(7, 0));
-    EXPECT_EQ(RGB(10, 20, 30), dc.GetPixel(1, 1));
     CBrush none;
     dc.FillRect(CRect(0, 0, 8, 8), &none);
     dc.FillRect(CRect(0, 0, 8, 8), nullptr);
-    EXPECT_EQ(RGB(10, 20, 30), dc.GetPixel(1, 1));
+    struct Case {
+        int x, y;
+        COLORREF clr;
+    };
+    for (const Case& c :
+         {Case{4, 4, RGB(200, 100, 50)}, Case{5, 2, RGB(10, 20, 30)}, Case{0, 0, RGB(1, 1, 1)},
+          Case{7, 7, RGB(2, 2, 2)}, Case{7, 0, RGB(2, 2, 2)}, Case{1, 1, RGB(10, 20, 30)}})
+        EXPECT_EQ(c.clr, dc.GetPixel(c.x, c.y)) << c.x << "," << c.y;
 }
 
 TEST(FrameworkGdi, AttributesAreRemembered) {
     MemoryDC dc(4, 4);
-    EXPECT_EQ(RGB(0, 0, 0), dc.SetTextColor(RGB(1, 2, 3)));
-    EXPECT_EQ(RGB(1, 2, 3), dc.GetTextColor());
-    EXPECT_EQ(OPAQUE, dc.SetBkMode(TRANSPARENT));
-    EXPECT_EQ(R2_COPYPEN, dc.SetROP2(R2_XORPEN));
-    EXPECT_EQ(0u, dc.SetTextAlign(TA_RIGHT));
     const int nSaved = dc.SaveDC();
-    dc.SetBkMode(OPAQUE), dc.MoveTo(1, 2);
-    EXPECT_TRUE(dc.MoveTo(3, 3) == CPoint(1, 2));
+    dc.SetBkMode(TRANSPARENT), dc.MoveTo(1, 2);
+    EXPECT_EQ(CPoint(1, 2), dc.MoveTo(3, 3));
     EXPECT_TRUE(dc.RestoreDC(nSaved));
-    EXPECT_EQ(TRANSPARENT, dc.GetBkMode());
-    EXPECT_EQ(R2_XORPEN, dc.GetROP2());
-    EXPECT_EQ(static_cast<UINT>(TA_RIGHT), dc.GetTextAlign());
-    EXPECT_TRUE(dc.SetViewportOrg(5, 6) == CPoint(0, 0) && dc.GetViewportOrg() == CPoint(5, 6));
+    EXPECT_EQ(OPAQUE, dc.GetBkMode());
+    EXPECT_EQ(CPoint(0, 0), dc.SetViewportOrg(5, 6));
     CPoint pt(1, 1);
-    dc.LPtoDP(&pt);
-    EXPECT_TRUE(pt == CPoint(6, 7));
     CSize size(4, 5);
-    dc.DPtoLP(&size);
-    EXPECT_TRUE(size == CSize(4, 5));  // an origin moves no size
+    dc.LPtoDP(&pt), dc.DPtoLP(&size);
+    EXPECT_EQ(CPoint(6, 7), pt);
+    EXPECT_EQ(CSize(4, 5), size) << "an origin moves no size";
 }
 
 TEST(FrameworkGdi, ABorrowedContextSurvivesItsBorrower) {
@@ -147,27 +128,14 @@ TEST(FrameworkGdi, Regions) {
     CRgn cross, bar, none;
     EXPECT_TRUE(cross.CreateRectRgn(0, 4, 10, 6) && bar.CreateRectRgnIndirect(CRect(4, 0, 6, 10)));
     EXPECT_EQ(COMPLEXREGION, cross.CombineRgn(&cross, &bar, RGN_OR));
-    EXPECT_TRUE(cross.PtInRegion(5, 0) && cross.PtInRegion(CPoint(0, 5)) && !cross.PtInRegion(0, 0));
-    CRect rc;
-    EXPECT_EQ(COMPLEXREGION, cross.GetRgnBox(&rc));
-    EXPECT_TRUE(rc == CRect(0, 0, 10, 10));
-    CRgn copy;
-    EXPECT_TRUE(copy.CreateRectRgn(0, 0, 1, 1));
-    EXPECT_EQ(COMPLEXREGION, copy.CopyRgn(&cross));
-    EXPECT_TRUE(copy.EqualRgn(&cross));
-    copy.OffsetRgn(1, 0);
-    EXPECT_FALSE(copy.EqualRgn(&cross) || none.EqualRgn(&cross) || cross.EqualRgn(nullptr));
+    EXPECT_FALSE(none.EqualRgn(&cross) || cross.EqualRgn(nullptr));
+    CRect rc(1, 2, 3, 4);
     EXPECT_EQ(ERROR, none.CombineRgn(&cross, &bar, RGN_OR));
     EXPECT_EQ(ERROR, none.GetRgnBox(&rc));
     EXPECT_TRUE(rc.IsRectNull() && !none.PtInRegion(0, 0));
     MemoryDC dc(10, 10);
-    dc.FillSolidRect(0, 0, 10, 10, RGB(0, 0, 0));
     EXPECT_EQ(COMPLEXREGION, dc.SelectObject(&cross));
     EXPECT_TRUE(dc.PtVisible(5, 0) && !dc.PtVisible(0, 0) && !dc.RectVisible(CRect(0, 0, 4, 4)));
-    dc.FillSolidRect(0, 0, 10, 10, RGB(255, 0, 0));
-    dc.SelectClipRgn(nullptr);
-    EXPECT_EQ(RGB(0, 0, 0), dc.GetPixel(1, 1));
-    EXPECT_EQ(RGB(255, 0, 0), dc.GetPixel(1, 5));
 }
 
 }  // namespace

@@ -7,16 +7,12 @@ namespace {
 
 TEST(FrameworkTime, FieldsRoundTrip) {
     const CTime time(2018, 9, 21, 14, 59, 7);
-    EXPECT_EQ(2018, time.GetYear());
-    EXPECT_EQ(9, time.GetMonth());
-    EXPECT_EQ(21, time.GetDay());
-    EXPECT_EQ(14, time.GetHour());
-    EXPECT_EQ(59, time.GetMinute());
-    EXPECT_EQ(7, time.GetSecond());
-    EXPECT_EQ(6, time.GetDayOfWeek());  // a Friday
-    EXPECT_TRUE(time.Format("%Y-%m-%d %H:%M") == "2018-09-21 14:59");
     EXPECT_EQ(time, CTime(time.GetTime()));
-    EXPECT_LT(time, CTime::GetCurrentTime());
+    EXPECT_TRUE(time.Format("%Y-%m-%d %H:%M:%S") == "2018-09-21 14:59:07");
+    const int fields[] = {time.GetYear(),   time.GetMonth(),  time.GetDay(),      time.GetHour(),
+                          time.GetMinute(), time.GetSecond(), time.GetDayOfWeek()};
+    const int want[] = {2018, 9, 21, 14, 59, 7, 6};  // a Friday
+    for (int n = 0; n < 7; ++n) EXPECT_EQ(want[n], fields[n]) << n;
 }
 
 TEST(FrameworkTime, MomentsWithoutFieldsGiveZero) {
@@ -35,17 +31,10 @@ TEST(FrameworkTime, MomentsWithoutFieldsGiveZero) {
 }
 
 TEST(FrameworkTime, FieldsThatNameNoMomentGiveTheMomentZero) {
-    EXPECT_EQ(0, CTime().GetTime());
-    struct Case {
-        const char* pszName;
-        CTime time;
-    };
-    for (const Case& c :
-         {Case{"month 13", CTime(2018, 13, 1, 0, 0, 0)}, Case{"day 0", CTime(2018, 1, 0, 0, 0, 0)},
-          Case{"31 April", CTime(2018, 4, 31, 0, 0, 0)}, Case{"hour 24", CTime(2018, 1, 1, 24, 0, 0)},
-          Case{"year 1969", CTime(1969, 1, 1, 0, 0, 0)},
-          Case{"year too large", CTime(INT_MAX, 1, 1, 0, 0, 0)}})
-        EXPECT_EQ(0, c.time.GetTime()) << c.pszName;
+    for (const CTime& time :
+         {CTime(), CTime(2018, 13, 1, 0, 0, 0), CTime(2018, 1, 0, 0, 0, 0), CTime(2018, 4, 31, 0, 0, 0),
+          CTime(2018, 1, 1, 24, 0, 0), CTime(1969, 1, 1, 0, 0, 0), CTime(INT_MAX, 1, 1, 0, 0, 0)})
+        EXPECT_EQ(0, time.GetTime());
 }
 
 }  // namespace

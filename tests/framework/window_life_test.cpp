@@ -1,5 +1,5 @@
+#include <memory>
 #include <string>
-#include <vector>
 
 #include "test_window.h"
 
@@ -98,16 +98,11 @@ TEST(FrameworkWindow, ObjectsOutliveTheirWindowsAndCanMakeAnother) {
     EXPECT_TRUE(wnd.DestroyWindow());
     EXPECT_FALSE(wnd.DestroyWindow());
     EXPECT_FALSE(wnd.Make(nullptr));
-}
-
-TEST(FrameworkWindow, DeletingTheObjectDestroysTheWindow) {
-    CHostWnd host;
-    std::string strLog;
-    auto* pWnd = new CLoggedWnd(strLog);
+    auto pWnd = std::make_unique<CLoggedWnd>(strLog);
     ASSERT_TRUE(pWnd->Make(&host));
     const HWND hWnd = pWnd->m_hWnd;
-    delete pWnd;
-    EXPECT_FALSE(::IsWindow(hWnd));
+    pWnd.reset();
+    EXPECT_FALSE(::IsWindow(hWnd)) << "goes with its object";
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
 }
 
@@ -224,19 +219,15 @@ TEST(FrameworkWindow, CallsWithoutAWindowAreHarmless) {
     wnd.GetWindowText(strText);
     wnd.Invalidate(), wnd.UpdateWindow(), wnd.MoveWindow(0, 0, 1, 1), wnd.InvalidateRgn(nullptr);
     EXPECT_TRUE(rc.IsRectNull() && strText.IsEmpty());
-    EXPECT_EQ(nullptr, wnd.GetDC());
-    EXPECT_EQ(nullptr, wnd.GetParent());
-    EXPECT_EQ(nullptr, wnd.SetFocus());
-    EXPECT_FALSE(wnd.PostMessage(WM_USER) || wnd.SetTimer(1, 10) || wnd.IsWindowVisible() ||
-                 wnd.RedrawWindow());
-    EXPECT_EQ(0, wnd.GetDlgCtrlID() + wnd.SendMessage(WM_USER) + wnd.ReleaseDC(nullptr));
+    EXPECT_FALSE(wnd.GetDC() || wnd.GetParent() || wnd.SetFocus() || wnd.PostMessage(WM_USER) ||
+                 wnd.SetTimer(1, 10) || wnd.IsWindowVisible() || wnd.RedrawWindow() || wnd.GetDlgCtrlID() ||
+                 wnd.SendMessage(WM_USER) || wnd.ReleaseDC(nullptr));
 }
 
 TEST(FrameworkWindow, HandlesHaveOneObjectEach) {
     CHostWnd host;
     CWnd child;
     ASSERT_TRUE(child.Create(nullptr, "child", WS_CHILD, CRect(10, 20, 30, 50), &host, 5));
-    EXPECT_EQ(&child, CWnd::FromHandle(child.m_hWnd));
     EXPECT_EQ(&host, child.GetParent());
     EXPECT_EQ(&child, host.GetDlgItem(5));
     const HWND hRaw = ::CreateWindowEx(0, AfxRegisterWndClass(0), "raw", WS_CHILD, 0, 0, 1, 1, host.m_hWnd,

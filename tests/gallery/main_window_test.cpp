@@ -97,7 +97,7 @@ TEST_F(MainWindowTest, TabsAndPageShareTheWindow) {
     }
 }
 
-TEST_F(MainWindowTest, AClickOnATabTurnsThePageLater) {
+TEST_F(MainWindowTest, TabsAndKeysTurnThePages) {
     ClickTab(1);
     EXPECT_EQ(1, s_nMade) << "the strip is still at work";
     const HWND hOld = s_hPage;
@@ -108,16 +108,11 @@ TEST_F(MainWindowTest, AClickOnATabTurnsThePageLater) {
     ClickTab(1);
     RunPendingMessages();
     EXPECT_EQ(2, s_nMade) << "the page is there already";
-}
-
-TEST_F(MainWindowTest, KeysTurnThePagesAndMarkTheTabSilently) {
-    ClickTab(1);
-    RunPendingMessages();
     int nMade = s_nMade;
     for (const WPARAM nKey : {VK_PRIOR, VK_NEXT, VK_NEXT, VK_PRIOR}) {
         TypeKey(nKey);
         EXPECT_EQ(++nMade, s_nMade);
-        ReportTab();  // which finds the page shown
+        ReportTab();  // which was marked without a word, and finds the page shown
         EXPECT_EQ(nMade, s_nMade);
     }
 }

@@ -1,18 +1,14 @@
 // The pies' and the price radar's page and the choice that they share, on two small days.
-#include <gtest/gtest.h>
-
-#include <fstream>
 #include <utility>
 
 #include "gallery/pages.h"
-#include "gallery/scratch_dir.h"
-#include "wrappers/host.h"
+#include "page_stage.h"
 
 using namespace gallery;
 
 namespace {
 
-constexpr UINT kChartId = 100, kListId = 101;
+constexpr UINT kListId = 101;
 constexpr int kListWidth = 96, kContentHeight = 300 - 3 * 18 - 2 * 4, kNames = 3;
 constexpr int kNone = -1, kLargest = 0, kSecond = 1, kLast = 2;
 
@@ -35,74 +31,40 @@ HWND Tip() {
     return hWnd && ClassOf(hWnd) == "__InfoTip__Wnd__CLS__" ? hWnd : nullptr;
 }
 
-HWND ChartOf(const Page& page) { return ControlIn(page, kChartId); }
-
-COLORREF ColourAt(const Page& page, CPoint pt) {
-    ::UpdateWindow(ChartOf(page));
-    CClientDC dc(CWnd::FromHandle(ChartOf(page)));
-    return dc.GetPixel(pt);
-}
-
-/// Which slice of the pies is marked.
-int MarkedIn(const Page& pies) {
-    int nMarked = kNone;
-    for (int n = 0; n < kNames; ++n) {
-        const COLORREF clr = ColourAt(pies, kInSlice[n]);
-        if (clr == kPlain) continue;
-        EXPECT_EQ(kMarked, clr);
-        EXPECT_EQ(kNone, std::exchange(nMarked, n));
-    }
-    return nMarked;
-}
-
-void ClickName(const Page& page, int nPlace) {
-    const int nHeight = kContentHeight / kNames;
-    ::SendMessage(ControlIn(page, kListId), WM_LBUTTONDOWN, 0,
-                  MAKELPARAM(kListWidth / 2, nPlace * nHeight + nHeight / 2));
-    HostWindow::Pump();
-}
-
-void Press(const Page& page, UINT nKey) {
-    MSG msg{};
-    msg.hwnd = ChartOf(page), msg.message = WM_KEYDOWN, msg.wParam = nKey;
-    EXPECT_TRUE(AfxPreTranslateMessage(&msg));
-}
-
-class IndustriesPageTest : public testing::Test {
+class IndustriesPages : public PageStage {
 protected:
-    void SetUp() override {
-        m_settings.dataDir = ScratchDir();
-        std::filesystem::create_directories(m_settings.dataDir);
-        std::ofstream(m_settings.dataDir / "industry_flow_2026-08.csv", std::ios::binary) << kRows;
-    }
-    void TearDown() override { std::filesystem::remove_all(m_settings.dataDir); }
+    IndustriesPages() { Write("industry_flow_2026-08.csv", kRows); }
 
-    std::unique_ptr<Page> Open(std::unique_ptr<Page> (*pfnMake)(const PageSettings&)) {
-        std::unique_ptr<Page> pPage = pfnMake(m_settings);
-        EXPECT_TRUE(pPage->CreateOn(m_host, CRect(0, 0, 400, 300)));
-        HostWindow::Pump();
-        return pPage;
+    /// As the screen shows it.
+    static COLORREF ColourAt(const Page& page, CPoint pt) {
+        const HWND hChart = ControlIn(page, kChartId);
+        ::UpdateWindow(hChart);
+        CClientDC dc(CWnd::FromHandle(hChart));
+        return dc.GetPixel(pt);
     }
-
-    PageSettings m_settings;
-    HostWindow m_host;
+    /// Which slice of the pies is marked.
+    static int MarkedIn(const Page& pies) {
+        int nMarked = kNone;
+        for (int n = 0; n < kNames; ++n) {
+            const COLORREF clr = ColourAt(pies, kInSlice[n]);
+            if (clr == kPlain) continue;
+            EXPECT_EQ(kMarked, clr);
+            EXPECT_EQ(kNone, std::exchange(nMarked, n));
+        }
+        return nMarked;
+    }
+    static void ClickName(const Page& page, int nPlace) {
+        const int nHeight = kContentHeight / kNames;
+        Click(page, kListId, CPoint(kListWidth / 2, nPlace * nHeight + nHeight / 2));
+    }
 };
 
 }  // namespace
 
-TEST_F(IndustriesPageTest, AClickOnANameSelectsInThePies) {
-    const auto pPies = Open(MakePiesPage);
+TEST_F(IndustriesPages, KeysAndClicksSelectInThePies) {
+    auto pPies = Open(MakePiesPage);
     EXPECT_EQ(kNone, MarkedIn(*pPies));
     EXPECT_FALSE(Tip());
-    for (const int n : {kSecond, kLargest, kLast, kLast}) {
-        ClickName(*pPies, n);
-        EXPECT_EQ(n, MarkedIn(*pPies));
-        EXPECT_TRUE(::IsWindowVisible(Tip()));
-    }
-}
-
-TEST_F(IndustriesPageTest, KeysStepThroughTheNames) {
-    const auto pPies = Open(MakePiesPage);
     struct Case {
         UINT nKey;
         int nWant;
@@ -113,9 +75,16 @@ TEST_F(IndustriesPageTest, KeysStepThroughTheNames) {
         Press(*pPies, c.nKey);
         EXPECT_EQ(c.nWant, MarkedIn(*pPies));
     }
+    for (const int n : {kSecond, kLargest, kLast, kLast}) {
+        ClickName(*pPies, n);
+        EXPECT_EQ(n, MarkedIn(*pPies));
+        EXPECT_TRUE(::IsWindowVisible(Tip()));
+    }
+    pPies.reset();
+    EXPECT_FALSE(Tip()) << "goes with its page";
 }
 
-TEST_F(IndustriesPageTest, ThePriceRadarMarksTheIndustryOnEveryDay) {
+TEST_F(IndustriesPages, ThePriceRadarMarksTheIndustryOnEveryDay) {
     const auto pRadar = Open(MakePriceRadarPage);
     struct Case {
         int nPlace;
@@ -130,11 +99,10 @@ TEST_F(IndustriesPageTest, ThePriceRadarMarksTheIndustryOnEveryDay) {
     }
 }
 
-TEST_F(IndustriesPageTest, BothPagesShareTheChoice) {
+TEST_F(IndustriesPages, BothPagesShareTheChoice) {
     auto pPies = Open(MakePiesPage);
     ClickName(*pPies, kLargest);
     pPies.reset();
-    EXPECT_FALSE(Tip()) << "goes with its page";
     auto pRadar = Open(MakePriceRadarPage);
     EXPECT_EQ(kMarked, ColourAt(*pRadar, kNewestDay));
     Press(*pRadar, VK_DOWN);
@@ -145,7 +113,7 @@ TEST_F(IndustriesPageTest, BothPagesShareTheChoice) {
     EXPECT_TRUE(::IsWindowVisible(Tip()));
 }
 
-TEST_F(IndustriesPageTest, ThePiesSelectWithoutATipWhereAnotherOneIsOpen) {
+TEST_F(IndustriesPages, ThePiesSelectWithoutATipWhereAnotherOneIsOpen) {
     const auto pFirst = Open(MakePiesPage), pSecond = Open(MakePiesPage);
     ClickName(*pFirst, kLargest);
     const HWND hTip = Tip();

@@ -25,36 +25,24 @@ public:
     explicit Stage(const std::string& name, PageSettings settings = {.dataDir = FindDataDir()},
                    CSize size = {800, 600})
         : m_pPage(FindPage(name).pfnMake(settings)) {
-        m_host.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-        EXPECT_TRUE(m_pPage->CreateOn(m_host, CRect(CPoint(0, 0), size)));
-        HostWindow::Pump();
+        EXPECT_TRUE(m_pPage->CreateOn(m_host, CRect(0, 0, 1, 1)));
+        Resize(size);
     }
     void Resize(CSize size) {
         m_host.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-        const CRect rc(CPoint(0, 0), size);
-        m_pPage->MoveWindow(&rc);
+        m_pPage->MoveWindow(0, 0, size.cx, size.cy);
         HostWindow::Pump();
     }
     /// What is on the screen, only what asked for it being painted.
-    Shot Look() {
-        ::RedrawWindow(m_host.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        CRect rc;
-        m_host.GetClientRect(&rc);
-        CClientDC dc(&m_host);
-        return ShotOf(dc, rc.Width(), rc.Height());
-    }
-    Shot Look(UINT nControl) {
-        ::UpdateWindow(Control(nControl));
-        CRect rc;
-        ::GetClientRect(Control(nControl), &rc);
-        CClientDC dc(CWnd::FromHandle(Control(nControl)));
-        return ShotOf(dc, rc.Width(), rc.Height());
-    }
+    Shot Look() { return LookAt(m_host.m_hWnd); }
+    Shot Look(UINT nControl) { return LookAt(Control(nControl)); }
     HWND Control(UINT nId) const { return ControlIn(*m_pPage, nId); }
-    Page& ThePage() { return *m_pPage; }
+    HWND PageWindow() const { return m_pPage->m_hWnd; }
 
-    void Send(UINT nControl, UINT nMessage, CPoint pt) {
-        ::SendMessage(Control(nControl), nMessage, 0, MAKELPARAM(pt.x, pt.y));
+    void Send(UINT nControl, std::initializer_list<UINT> messages, CPoint pt) {
+        for (const UINT nMessage : messages)
+            ::SendMessage(Control(nControl), nMessage, 0, MAKELPARAM(pt.x, pt.y));
+        HostWindow::Pump();
     }
     void Press(UINT nKey) {
         MSG msg{};
@@ -63,6 +51,14 @@ public:
     }
 
 private:
+    static Shot LookAt(HWND hWnd) {
+        ::RedrawWindow(hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        CRect rc;
+        ::GetClientRect(hWnd, &rc);
+        CClientDC dc(CWnd::FromHandle(hWnd));
+        return ShotOf(dc, rc.Width(), rc.Height());
+    }
+
     HostWindow m_host;
     std::unique_ptr<Page> m_pPage;
 };
@@ -78,9 +74,7 @@ PageSettings Chosen(const std::string& industry, const std::string& stock = {}) 
 CPoint FindPoint(Stage& stage, const Choice& choice) {
     for (int y = 150; y > 90; y -= 3)
         for (int x = 100; x < 200; x += 3) {
-            stage.Send(kRadarId, WM_LBUTTONDOWN, {x, y});
-            stage.Send(kRadarId, WM_LBUTTONUP, {x, y});
-            HostWindow::Pump();
+            stage.Send(kRadarId, {WM_LBUTTONDOWN, WM_LBUTTONUP}, {x, y});
             if (!choice.strStock.empty()) return {x, y};
         }
     ADD_FAILURE() << "no stock anywhere";
@@ -99,9 +93,7 @@ TEST(Pages, WhateverSizesTheyHadTheyLookAsNewOnesDo) {
             stage.Look();
         }
         Stage fresh(pszPage, {.dataDir = FindDataDir()}, {637, 411});
-        const Shot shot = stage.Look(), want = fresh.Look();
-        ASSERT_EQ(want.pixels.size(), shot.pixels.size());
-        EXPECT_EQ(CPoint(-1, -1), shot.FirstDifference(want));
+        EXPECT_EQ(CPoint(-1, -1), stage.Look().FirstDifference(fresh.Look()));
     }
 }
 
@@ -110,7 +102,7 @@ TEST(Overview, TheTwelveControlsShareThePage) {
     for (const CSize size : {CSize(800, 600), CSize(320, 240)}) {
         stage.Resize(size);
         CRect rcPage;
-        ::GetWindowRect(stage.ThePage().m_hWnd, &rcPage);
+        ::GetWindowRect(stage.PageWindow(), &rcPage);
         std::vector<CRect> taken;
         for (UINT nId = kRadarId; nId <= kLastId; ++nId) {
             CRect rc, rcCommon;
@@ -124,16 +116,14 @@ TEST(Overview, TheTwelveControlsShareThePage) {
 
 TEST(Overview, ASectorOfTheWheelIsMarkedInBothRadars) {
     const PageSettings settings = Chosen("");
-    Stage stage("overview", settings);
+    Stage stage("overview", settings), fresh("overview", Chosen("元器件"));
     const Shot radar = stage.Look(kRadarId), points = stage.Look(kPointsId);
     CPoint pt(204, 330);  // the dot of the second sector, on the page
-    ::MapWindowPoints(stage.ThePage().m_hWnd, stage.Control(kWheelId), &pt, 1);
-    for (const UINT nMessage : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) stage.Send(kWheelId, nMessage, pt);
-    HostWindow::Pump();
+    ::MapWindowPoints(stage.PageWindow(), stage.Control(kWheelId), &pt, 1);
+    stage.Send(kWheelId, {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}, pt);
     EXPECT_EQ("元器件", settings.pChoice->strIndustry);
     EXPECT_NE(radar, stage.Look(kRadarId));
     EXPECT_NE(points, stage.Look(kPointsId));
-    Stage fresh("overview", Chosen("元器件"));
     EXPECT_EQ(fresh.Look(kRadarId), stage.Look(kRadarId));
     EXPECT_EQ(fresh.Look(kPointsId), stage.Look(kPointsId));
     Stage own("radar", settings), other("radar", Chosen("银行"));
@@ -146,23 +136,20 @@ TEST(Overview, AClickInTheRadarPicksAStockADragDoesNot) {
     const CPoint pt = FindPoint(stage, *settings.pChoice);
     EXPECT_EQ(6u, settings.pChoice->strStock.size());
     settings.pChoice->strStock.clear();
-    stage.Send(kRadarId, WM_LBUTTONDOWN, pt);
-    stage.Send(kRadarId, WM_LBUTTONUP, {pt.x + 9, pt.y + 9});
-    HostWindow::Pump();
+    stage.Send(kRadarId, {WM_LBUTTONDOWN}, pt);
+    stage.Send(kRadarId, {WM_LBUTTONUP}, pt + CPoint(9, 9));
     EXPECT_EQ("", settings.pChoice->strStock);
 }
 
 TEST(Overview, AStockFromTheStripIsShownEverywhere) {
     const PageSettings settings = Chosen("");
-    Stage stage("overview", settings);
+    Stage stage("overview", settings), fresh("overview", Chosen("", "000002"));
     const Shot minute = stage.Look(kMinuteId), ladder = stage.Look(kLadderId), pies = stage.Look(kPiesId);
-    stage.Send(kStocksId, WM_LBUTTONDOWN, {200, 5});  // the second of six
-    HostWindow::Pump();
+    stage.Send(kStocksId, {WM_LBUTTONDOWN}, {200, 5});  // the second of six
     EXPECT_EQ("000002", settings.pChoice->strStock);
     EXPECT_NE(minute, stage.Look(kMinuteId));
     EXPECT_NE(ladder, stage.Look(kLadderId));
     EXPECT_NE(pies, stage.Look(kPiesId));
-    Stage fresh("overview", Chosen("", "000002"));
     EXPECT_EQ(fresh.Look(kMinuteId), stage.Look(kMinuteId));
     EXPECT_EQ(fresh.Look(kLadderId), stage.Look(kLadderId));
     stage.Press('1');

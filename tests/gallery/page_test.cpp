@@ -53,12 +53,6 @@ protected:
 
 }  // namespace
 
-TEST_F(PageTest, PassesTheKeyboardToItsFirstControl) {
-    m_host.SetFocus();
-    m_page.SetFocus();
-    EXPECT_EQ(m_page.First(), ::GetFocus());
-}
-
 TEST_F(PageTest, APressOnAControlGivesItTheKeyboard) {
     struct Case {
         UINT nMessage;
@@ -68,16 +62,14 @@ TEST_F(PageTest, APressOnAControlGivesItTheKeyboard) {
          {Case{WM_LBUTTONDOWN, true}, Case{WM_LBUTTONDBLCLK, true}, Case{WM_RBUTTONDOWN, true},
           Case{WM_RBUTTONDBLCLK, true}, Case{WM_MOUSEMOVE, false}, Case{WM_LBUTTONUP, false}}) {
         SCOPED_TRACE(c.nMessage);
+        m_host.SetFocus();
         m_page.SetFocus();
+        EXPECT_EQ(m_page.First(), ::GetFocus()) << "the page passes it on";
         EXPECT_FALSE(Filter(m_page.Second(), c.nMessage)) << "the control gets it too";
         EXPECT_EQ(c.bTakes ? m_page.Second() : m_page.First(), ::GetFocus());
     }
-}
-
-TEST_F(PageTest, APressBesideTheControlsLeavesTheKeyboardAlone) {
     ::SetFocus(m_page.Second());
-    Filter(m_page.m_hWnd, WM_LBUTTONDOWN);
-    Filter(m_host.m_hWnd, WM_LBUTTONDOWN);
+    for (const HWND hBeside : {m_page.m_hWnd, m_host.m_hWnd}) Filter(hBeside, WM_LBUTTONDOWN);
     EXPECT_EQ(m_page.Second(), ::GetFocus());
 }
 
@@ -90,27 +82,21 @@ TEST_F(PageTest, UsesItsOwnKeysOnly) {
 }
 
 TEST_F(PageTest, ControlsGetTheRoomAboveTheNotes) {
+    const auto second = [this] {
+        CRect rc;
+        ::GetWindowRect(m_page.Second(), &rc);
+        m_page.ScreenToClient(&rc);
+        return rc;
+    };
     m_page.MoveWindow(0, 0, 200, 100);
-    CRect rc;
-    ::GetWindowRect(m_page.Second(), &rc);
-    m_page.ScreenToClient(&rc);
-    EXPECT_EQ(CRect(100, 0, 200, 100 - 2 * 18 - 2 * 4), rc);
-}
-
-TEST_F(PageTest, NewNotesLeaveTheControlsAlone) {
+    EXPECT_EQ(CRect(100, 0, 200, 100 - 2 * 18 - 2 * 4), second());
     HostWindow::Pump();
     TakeRepaint(m_page.m_hWnd), TakeRepaint(m_page.First()), TakeRepaint(m_page.Second());
-    m_page.Say({"three", "four"});
-    EXPECT_FALSE(TakeRepaint(m_page.First()));
-    EXPECT_FALSE(TakeRepaint(m_page.Second()));
+    m_page.Say({"three", "four"});  // as many as before: the controls are left alone
+    EXPECT_FALSE(TakeRepaint(m_page.First()) || TakeRepaint(m_page.Second()));
     CRect rcWaits;
     ::GetUpdateRect(m_page.m_hWnd, &rcWaits, FALSE);
-    EXPECT_EQ(CRect(0, 200 - 2 * 18 - 2 * 4, 300, 200), rcWaits);
-}
-
-TEST_F(PageTest, MoreNotesTakeRoomFromTheControls) {
+    EXPECT_EQ(CRect(0, 100 - 2 * 18 - 2 * 4, 200, 100), rcWaits);
     m_page.Say({"three", "four", "five"});
-    CRect rc;
-    ::GetClientRect(m_page.First(), &rc);
-    EXPECT_EQ(200 - 3 * 18 - 2 * 4, rc.Height());
+    EXPECT_EQ(CRect(100, 0, 200, 100 - 3 * 18 - 2 * 4), second());
 }

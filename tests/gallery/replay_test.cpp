@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "gallery/core/pace.h"
+
 using namespace gallery;
 using State = Replay::State;
 
@@ -57,4 +59,27 @@ TEST(Replay, TheDayWaitsForTheFirstPage) {
     live.Open(200000);
     EXPECT_TRUE(live.Tick(200000));
     EXPECT_EQ(5, live.Minutes()) << "from page to page at most a second counts";
+}
+
+TEST(Pace, MinutesFallDueWithTheTime) {
+    struct Case {
+        const char* pszName;
+        int nSpeed;
+        DWORD dwStart;
+        std::vector<DWORD> calls;  // milliseconds after the start
+        std::vector<int> want;
+    };
+    for (const Case& c : {Case{"slowest", 1, 0, {999, 1000, 1500, 2000}, {0, 1, 0, 1}},
+                          Case{"fractions are kept", 60, 5, {20, 40, 60, 100}, {1, 1, 1, 3}},
+                          Case{"fastest", 240, 0, {20, 40, 1040}, {4, 5, 240}},
+                          Case{"a long sleep counts as a second", 4, 0, {100000, 100250}, {4, 1}},
+                          Case{"no time", 240, 7, {0, 0}, {0, 0}},
+                          Case{"the count starts again", 4, 0xFFFFFF00u, {250, 500}, {1, 1}}}) {
+        SCOPED_TRACE(c.pszName);
+        Pace pace(c.nSpeed);
+        pace.Start(c.dwStart);
+        std::vector<int> got;
+        for (const DWORD dwAfter : c.calls) got.push_back(pace.Due(c.dwStart + dwAfter));
+        EXPECT_EQ(c.want, got);
+    }
 }

@@ -27,8 +27,9 @@ TEST(MulDiv, RoundsAndRefuses) {
 
 TEST(LastError, BelongsToTheThread) {
     std::atomic<bool> bGo = false, bDone = false;  // neither side calls the system while the errors stand
-    DWORD dwOther = 99;
+    DWORD dwOther = 99, dwOtherId = 0;
     std::thread other([&] {
+        dwOtherId = GetCurrentThreadId();
         while (!bGo) continue;
         SetLastError(6);
         dwOther = GetLastError();
@@ -40,38 +41,19 @@ TEST(LastError, BelongsToTheThread) {
     EXPECT_EQ(5u, GetLastError());
     other.join();
     EXPECT_EQ(6u, dwOther);
-}
-
-TEST(Threads, HaveTheirOwnId) {
-    DWORD dwOther = 0;
-    std::thread([&dwOther] { dwOther = GetCurrentThreadId(); }).join();
-    EXPECT_NE(0u, GetCurrentThreadId());
-    EXPECT_EQ(GetCurrentThreadId(), GetCurrentThreadId());
-    EXPECT_NE(dwOther, GetCurrentThreadId());
+    EXPECT_NE(dwOtherId, GetCurrentThreadId());
 }
 
 TEST(Modules, HostProgram) {
     const HMODULE hHost = GetModuleHandleA(nullptr);
     ASSERT_NE(nullptr, hHost);
-    EXPECT_EQ(hHost, GetModuleHandleA(nullptr));
-    char szHost[MAX_PATH] = {}, szNull[MAX_PATH] = {};
-    const DWORD cch = GetModuleFileNameA(hHost, szHost, MAX_PATH);
-    EXPECT_EQ(cch, GetModuleFileNameA(nullptr, szNull, MAX_PATH));
-    EXPECT_STREQ(szHost, szNull);
+    char szHost[MAX_PATH] = {}, szCut[8];
+    EXPECT_LT(8u, GetModuleFileNameA(nullptr, szHost, MAX_PATH));
     EXPECT_NE(nullptr, strstr(szHost, "tavlon_tests"));
-}
-
-TEST(Modules, FileNameIsCutToTheBuffer) {
-    char szWhole[MAX_PATH] = {}, szCut[8];
-    GetModuleFileNameA(nullptr, szWhole, MAX_PATH);
-    EXPECT_EQ(8u, GetModuleFileNameA(nullptr, szCut, 8));
-    EXPECT_EQ(std::string(szWhole).substr(0, 7), std::string(szCut, 7));
-}
-
-TEST(Modules, UnknownNames) {
+    EXPECT_EQ(8u, GetModuleFileNameA(hHost, szCut, 8));
+    EXPECT_EQ(std::string(szHost).substr(0, 7), std::string(szCut, 7));
     EXPECT_EQ(nullptr, GetModuleHandleA("no such module"));
-    EXPECT_EQ(nullptr, FindResourceA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(29999), RT_BITMAP));
-    EXPECT_EQ(nullptr, LoadBitmapA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(29999)));
+    EXPECT_EQ(nullptr, FindResourceA(hHost, MAKEINTRESOURCEA(29999), RT_BITMAP));
 }
 
 }  // namespace

@@ -34,111 +34,96 @@ void InitWheel(CProxy_BR& wheel, Dice& dice) {
     wheel.Init(sectors, dice.Make<tagBlocksInfo>());
 }
 
-const Methods<CProxy_BR>& MethodsOf(CProxy_BR*) {
+Methods<CProxy_BR> MethodsOf(CProxy_BR*) {
     using T = CProxy_BR;
-    static const Methods<T> methods = RandomCalls<T>(
-        InitWheel, &T::Play, &T::Stop, &T::ReDraw, &T::SetUpdateTime, &T::SetTitle, &T::GetBlocksInfo,
-        &T::GetCurBlockData, static_cast<int (T::*)(tagmyBRData&)>(&T::SetData),
-        static_cast<int (T::*)(int, tagmyBRData&)>(&T::SetData), &T::Create);
-    return methods;
+    return RandomCalls<T>(InitWheel, &T::Play, &T::Stop, &T::ReDraw, &T::SetUpdateTime, &T::SetTitle,
+                          &T::GetBlocksInfo, &T::GetCurBlockData,
+                          static_cast<int (T::*)(tagmyBRData&)>(&T::SetData),
+                          static_cast<int (T::*)(int, tagmyBRData&)>(&T::SetData), &T::Create);
 }
 
-const Methods<CProxy_ChartOL>& MethodsOf(CProxy_ChartOL*) {
+Methods<CProxy_ChartOL> MethodsOf(CProxy_ChartOL*) {
     using T = CProxy_ChartOL;
-    static const Methods<T> methods =
-        RandomCalls<T>(&T::Init, &T::SetData, &T::SetJueShaData, &T::Play, &T::Stop, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::SetData, &T::SetJueShaData, &T::Play, &T::Stop, &T::Create);
 }
 
-const Methods<CProxy_HistogramCtrl>& MethodsOf(CProxy_HistogramCtrl*) {
+Methods<CProxy_HistogramCtrl> MethodsOf(CProxy_HistogramCtrl*) {
     using T = CProxy_HistogramCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Init, &T::SetData, &T::Play, &T::SetIndex, &T::SetCoordinateShaftColor, &T::SetGirdColor,
-        &T::SetBackColor, &T::SetCoordinateShaftFontColor, &T::SetCoordinateShaftTitleColor,
-        &T::SetBorderColor, &T::DisplayGird, &T::SetYTitle, &T::SetXTitle, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::SetData, &T::Play, &T::SetIndex, &T::SetCoordinateShaftColor,
+                          &T::SetGirdColor, &T::SetBackColor, &T::SetCoordinateShaftFontColor,
+                          &T::SetCoordinateShaftTitleColor, &T::SetBorderColor, &T::DisplayGird,
+                          &T::SetYTitle, &T::SetXTitle, &T::Create);
 }
 
-const Methods<CProxy_PieChartCtrl>& MethodsOf(CProxy_PieChartCtrl*) {
+Methods<CProxy_PieChartCtrl> MethodsOf(CProxy_PieChartCtrl*) {
     using T = CProxy_PieChartCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Init, &T::SetData, &T::Play, &T::SelectPieById, &T::SetBorderColor, &T::SetCircleBorderColor,
-        &T::SetCircleBackgroundColor, &T::SetBackColor, &T::SetPieBorderColor, &T::SetSumTipTitleColor,
-        &T::SetSumTipContxtColor, &T::SetActivePieBackColor, &T::SetSeparateLineColor, &T::SetInfoTipWidth,
-        &T::SetInfoTipHeight, &T::SetInfoTipTitleBackColor, &T::SetInfoTipTitleFontColor,
-        &T::SetInfoTipContextBackColor, &T::SetInfoTipContextFontColor, &T::SetSumTipTitleTopText,
-        &T::SetSumTipTitleBottomText, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::SetData, &T::Play, &T::SelectPieById, &T::SetBorderColor,
+                          &T::SetCircleBorderColor, &T::SetCircleBackgroundColor, &T::SetBackColor,
+                          &T::SetPieBorderColor, &T::SetSumTipTitleColor, &T::SetSumTipContxtColor,
+                          &T::SetActivePieBackColor, &T::SetSeparateLineColor, &T::SetInfoTipWidth,
+                          &T::SetInfoTipHeight, &T::SetInfoTipTitleBackColor, &T::SetInfoTipTitleFontColor,
+                          &T::SetInfoTipContextBackColor, &T::SetInfoTipContextFontColor,
+                          &T::SetSumTipTitleTopText, &T::SetSumTipTitleBottomText, &T::Create);
 }
 
-const Methods<CProxy_PointRadarCtrl>& MethodsOf(CProxy_PointRadarCtrl*) {
+Methods<CProxy_PointRadarCtrl> MethodsOf(CProxy_PointRadarCtrl*) {
     using T = CProxy_PointRadarCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Init, &T::Play, &T::ActiveBlockByInfo, &T::ClearData, &T::SetData, &T::SetGirdVisble,
-        &T::SetCoordinateShaftFontSize, &T::SetGateBkColor, &T::SetCoordinateShaftLineColor, &T::SetFontColor,
-        &T::SetBorderColor, &T::SetSouthGate, &T::SetWestGate, &T::SetUpdateTime, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::Play, &T::ActiveBlockByInfo, &T::ClearData, &T::SetData,
+                          &T::SetGirdVisble, &T::SetCoordinateShaftFontSize, &T::SetGateBkColor,
+                          &T::SetCoordinateShaftLineColor, &T::SetFontColor, &T::SetBorderColor,
+                          &T::SetSouthGate, &T::SetWestGate, &T::SetUpdateTime, &T::Create);
 }
 
-const Methods<CProxy_PointStartCtrl>& MethodsOf(CProxy_PointStartCtrl*) {
+Methods<CProxy_PointStartCtrl> MethodsOf(CProxy_PointStartCtrl*) {
     using T = CProxy_PointStartCtrl;
-    static const Methods<T> methods =
-        RandomCalls<T>(&T::Init, &T::Play, &T::ClearData, &T::SetData, &T::SetCoordinateShaftFontSize,
-                       &T::SetCoordinateShaftLineColor, &T::SetFontColor, &T::SetGirdVisble,
-                       &T::SetBorderColor, &T::SetUpdateTime, &T::SetTitle, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::Play, &T::ClearData, &T::SetData, &T::SetCoordinateShaftFontSize,
+                          &T::SetCoordinateShaftLineColor, &T::SetFontColor, &T::SetGirdVisble,
+                          &T::SetBorderColor, &T::SetUpdateTime, &T::SetTitle, &T::Create);
 }
 
-const Methods<CProxy_PositionBarCtrl>& MethodsOf(CProxy_PositionBarCtrl*) {
+Methods<CProxy_PositionBarCtrl> MethodsOf(CProxy_PositionBarCtrl*) {
     using T = CProxy_PositionBarCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetColor, &T::SetTitleTextColor,
-        &T::SetCylinderColor, &T::SetCoordinateColor, &T::SetBorderColor, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetColor,
+                          &T::SetTitleTextColor, &T::SetCylinderColor, &T::SetCoordinateColor,
+                          &T::SetBorderColor, &T::Create);
 }
 
-const Methods<CProxy_PriceRadarCtrl>& MethodsOf(CProxy_PriceRadarCtrl*) {
+Methods<CProxy_PriceRadarCtrl> MethodsOf(CProxy_PriceRadarCtrl*) {
     using T = CProxy_PriceRadarCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Init, &T::SetData, &T::Play, &T::SetTitleText, &T::SetTitleFontColor, &T::SetBackColor,
-        &T::SetTitleBackColor, &T::SetLeftBorderColor, &T::SetRightBorderColor, &T::SetTopBorderColor,
-        &T::SetBottomBorderColor, &T::SetTitleFontSize, &T::SetTitleHeight, &T::SetLabelHeight,
-        &T::SetSelectId, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::SetData, &T::Play, &T::SetTitleText, &T::SetTitleFontColor,
+                          &T::SetBackColor, &T::SetTitleBackColor, &T::SetLeftBorderColor,
+                          &T::SetRightBorderColor, &T::SetTopBorderColor, &T::SetBottomBorderColor,
+                          &T::SetTitleFontSize, &T::SetTitleHeight, &T::SetLabelHeight, &T::SetSelectId,
+                          &T::Create);
 }
 
-const Methods<CProxy_PrssureSupportCtrl>& MethodsOf(CProxy_PrssureSupportCtrl*) {
+Methods<CProxy_PrssureSupportCtrl> MethodsOf(CProxy_PrssureSupportCtrl*) {
     using T = CProxy_PrssureSupportCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Play, &T::Stop, &T::ReDraw, &T::SetPriceData, &T::SetColor, &T::SetPrSuColor,
-        &T::SetPrSuTextColor, &T::SetBigMidSmallColor, &T::SetBorderColor, &T::SerSeparLineColor, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Play, &T::Stop, &T::ReDraw, &T::SetPriceData, &T::SetColor, &T::SetPrSuColor,
+                          &T::SetPrSuTextColor, &T::SetBigMidSmallColor, &T::SetBorderColor,
+                          &T::SerSeparLineColor, &T::Create);
 }
 
-const Methods<CProxy_RiskBarCtrl>& MethodsOf(CProxy_RiskBarCtrl*) {
+Methods<CProxy_RiskBarCtrl> MethodsOf(CProxy_RiskBarCtrl*) {
     using T = CProxy_RiskBarCtrl;
-    static const Methods<T> methods =
-        RandomCalls<T>(&T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetExplain,
-                       &T::SetColor, &T::SetTitleTextColor, &T::SetLineColor, &T::SetBorderColor, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Play, &T::Stop, &T::ReDraw, &T::SetData, &T::SetTitle, &T::SetExplain,
+                          &T::SetColor, &T::SetTitleTextColor, &T::SetLineColor, &T::SetBorderColor,
+                          &T::Create);
 }
 
-const Methods<CProxy_RoePointCtrl>& MethodsOf(CProxy_RoePointCtrl*) {
+Methods<CProxy_RoePointCtrl> MethodsOf(CProxy_RoePointCtrl*) {
     using T = CProxy_RoePointCtrl;
-    static const Methods<T> methods = RandomCalls<T>(
-        &T::Init, &T::Play, &T::ActiveBlockByInfo, &T::SetData, &T::SetGirdVisble,
-        &T::SetCoordinateShaftFontSize, &T::SetGateBkColor, &T::SetFontColor, &T::SetBorderColor, &T::SetGate,
-        &T::SetUpdateTime, &T::SetTitle, &T::SetCoordinateShaftLineColor, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::Init, &T::Play, &T::ActiveBlockByInfo, &T::SetData, &T::SetGirdVisble,
+                          &T::SetCoordinateShaftFontSize, &T::SetGateBkColor, &T::SetFontColor,
+                          &T::SetBorderColor, &T::SetGate, &T::SetUpdateTime, &T::SetTitle,
+                          &T::SetCoordinateShaftLineColor, &T::Create);
 }
 
-const Methods<CProxy_TabCtrl>& MethodsOf(CProxy_TabCtrl*) {
+Methods<CProxy_TabCtrl> MethodsOf(CProxy_TabCtrl*) {
     using T = CProxy_TabCtrl;
-    static const Methods<T> methods =
-        RandomCalls<T>(&T::AddItem, &T::ClearContent, &T::GetActiveId, &T::SelectTabById, &T::SetBackColor,
-                       &T::SetFontColor, &T::SetActiveTabBackColor, &T::SetActiveTabFontColor,
-                       &T::SetNormalTabBackColor, &T::SetFontSize, &T::SetFontBold, &T::Create);
-    return methods;
+    return RandomCalls<T>(&T::AddItem, &T::ClearContent, &T::GetActiveId, &T::SelectTabById, &T::SetBackColor,
+                          &T::SetFontColor, &T::SetActiveTabBackColor, &T::SetActiveTabFontColor,
+                          &T::SetNormalTabBackColor, &T::SetFontSize, &T::SetFontBold, &T::Create);
 }
 
 template <class T>
@@ -147,10 +132,8 @@ public:
     Wrapped() = default;
     explicit Wrapped(const T& wrapper) : m_wrapper(wrapper) {}
 
-    std::size_t MethodCount() const override { return MethodsOf(static_cast<T*>(nullptr)).size(); }
-    void Call(std::size_t nMethod, Dice& dice) override {
-        MethodsOf(static_cast<T*>(nullptr))[nMethod](m_wrapper, dice);
-    }
+    std::size_t MethodCount() const override { return TheMethods().size(); }
+    void Call(std::size_t nMethod, Dice& dice) override { TheMethods()[nMethod](m_wrapper, dice); }
     BOOL Create(CWnd* pParent, const CRect& rect, UINT nId) override {
         if constexpr (std::is_same_v<T, CProxy_TabCtrl>)
             return m_wrapper.Create(pParent, rect, nId, TAB_HORZ_CHAMFER);
@@ -160,6 +143,11 @@ public:
     std::unique_ptr<AnyWrapper> Copy() const override { return std::make_unique<Wrapped>(m_wrapper); }
 
 private:
+    static const Methods<T>& TheMethods() {
+        static const Methods<T> s_methods = MethodsOf(static_cast<T*>(nullptr));
+        return s_methods;
+    }
+
     T m_wrapper;
 };
 

@@ -6,14 +6,16 @@ using namespace user_test;
 
 namespace {
 
-HHOOK g_hOlder, g_hNewer, g_hPassedOn;
-int g_nOlder;
+HHOOK g_hNewer, g_hPassedOn;
+int g_nRefused;
 bool g_bUnhookFirst;
 
-/// Refuses every window.
+/// Refuses every window but the wanted one.
 LRESULT CALLBACK Refuse(int nCode, WPARAM wParam, LPARAM lParam) {
     if (nCode != HCBT_CREATEWND) return CallNextHookEx(nullptr, nCode, wParam, lParam);
-    return ++g_nOlder, 1;
+    const char* pszName = reinterpret_cast<CBT_CREATEWND*>(lParam)->lpcs->lpszName;
+    if (pszName && std::string(pszName) == "wanted") return 0;
+    return ++g_nRefused, 1;
 }
 
 LRESULT CALLBACK PassOn(int nCode, WPARAM wParam, LPARAM lParam) {
@@ -21,48 +23,30 @@ LRESULT CALLBACK PassOn(int nCode, WPARAM wParam, LPARAM lParam) {
     return CallNextHookEx(g_hPassedOn, nCode, wParam, lParam);
 }
 
-class UserHooks : public testing::Test {
-protected:
-    UserHooks() {
-        g_nOlder = 0, g_bUnhookFirst = false;
-        g_hOlder = SetWindowsHookEx(WH_CBT, Refuse, nullptr, GetCurrentThreadId());
-        g_hNewer = SetWindowsHookEx(WH_CBT, PassOn, nullptr, GetCurrentThreadId());
-    }
-    ~UserHooks() override {
-        UnhookWindowsHookEx(g_hNewer);
-        UnhookWindowsHookEx(g_hOlder);
-    }
-    HWND CreateOne() { return m_recorder.Create("one", WS_CHILD, m_hTop, {0, 0, 9, 9}); }
-
-    Recorder m_recorder;
-    HWND m_hTop = m_recorder.CreateTop();
-};
-
-TEST_F(UserHooks, TheNextOneDoesNotDependOnTheHandle) {
+TEST(UserHooks, EachIsAskedInTurn) {
+    Recorder recorder;
+    const HWND hTop = recorder.CreateTop();
+    const HHOOK hOlder = SetWindowsHookEx(WH_CBT, Refuse, nullptr, GetCurrentThreadId());
+    g_hNewer = SetWindowsHookEx(WH_CBT, PassOn, nullptr, GetCurrentThreadId());
     struct Case {
         const char* pszName;
         HHOOK hPassedOn;
+        bool bUnhookFirst;
     };
-    const Case cases[] = {{"its own", g_hNewer},
-                          {"none", nullptr},
-                          {"the older one's", g_hOlder},
-                          {"invented", reinterpret_cast<HHOOK>(0x1234568)}};
-    for (const Case& c : cases) {
+    for (const Case& c :
+         {Case{"the next one does not depend on the handle", g_hNewer, false}, Case{"none", nullptr, false},
+          Case{"the older one's", hOlder, false}, Case{"invented", reinterpret_cast<HHOOK>(0x1234568), false},
+          Case{"one that removed itself still passes on", g_hNewer, true},
+          Case{"the older one is the first now", g_hNewer, true}}) {
         SCOPED_TRACE(c.pszName);
-        g_nOlder = 0;
-        g_hPassedOn = c.hPassedOn;
-        EXPECT_EQ(nullptr, CreateOne());
-        EXPECT_EQ(1, g_nOlder);
+        g_nRefused = 0, g_hPassedOn = c.hPassedOn, g_bUnhookFirst = c.bUnhookFirst;
+        EXPECT_EQ(nullptr, recorder.Create("refused", WS_CHILD, hTop, {0, 0, 9, 9}));
+        EXPECT_EQ(1, g_nRefused);
+        EXPECT_EQ("", Joined(recorder.Take())) << "no message reaches a window that was refused";
     }
-}
-
-TEST_F(UserHooks, AHookThatRemovedItselfStillPassesOn) {
-    g_bUnhookFirst = true;
-    g_hPassedOn = g_hNewer;
-    EXPECT_EQ(nullptr, CreateOne());
-    EXPECT_EQ(1, g_nOlder);
-    EXPECT_EQ(nullptr, CreateOne()) << "the older one is the first now";
-    EXPECT_EQ(2, g_nOlder);
+    EXPECT_NE(nullptr, recorder.Create("wanted", WS_CHILD, hTop, {0, 0, 9, 9}));
+    EXPECT_FALSE(UnhookWindowsHookEx(g_hNewer));
+    EXPECT_TRUE(UnhookWindowsHookEx(hOlder));
 }
 
 }  // namespace

@@ -23,13 +23,9 @@ protected:
     HWND m_hChild = m_recorder.CreateChild(m_hTop);
 };
 
-TEST_F(UserInput, MoveAsksHitTestAndCursorParentFirst) {
+TEST_F(UserInput, WhatAMoveAndAPressAskFirst) {
     EXPECT_EQ("child.NCHITTEST child.SETCURSOR top.SETCURSOR child.MOUSEMOVE",
               After([] { MoveTo(150, 180); }));
-}
-
-TEST_F(UserInput, PressTellsTheParentAndAsksForActivation) {
-    MoveTo(150, 180);
     EXPECT_EQ(
         "child.NCHITTEST top.PARENTNOTIFY child.MOUSEACTIVATE top.MOUSEACTIVATE child.SETCURSOR "
         "top.SETCURSOR "
@@ -89,20 +85,16 @@ TEST_F(UserInput, AHeldButtonIsSeenWhenItsMessageIsRead) {
     EXPECT_EQ((Bits{0, 0}), states());
 }
 
-TEST_F(UserInput, DisabledChildLetsItsParentHaveTheClick) {
-    EnableWindow(m_hChild, FALSE);
+TEST_F(UserInput, DisabledAndTransparentChildrenPassTheClickOn) {
     m_recorder.Only({WM_LBUTTONDOWN});
+    EnableWindow(m_hChild, FALSE);
     EXPECT_EQ("top.LBUTTONDOWN", After([] { Click(150, 180); }));
-}
-
-TEST_F(UserInput, TransparentChildPassesThePointOn) {
-    const HWND hChild = m_hChild;
-    m_recorder.On(WM_NCHITTEST, [hChild](const Message& message) -> LRESULT {
-        if (message.hWnd == hChild) return HTTRANSPARENT;
+    EnableWindow(m_hChild, TRUE);
+    m_recorder.On(WM_NCHITTEST, [this](const Message& message) -> LRESULT {
+        if (message.hWnd == m_hChild) return HTTRANSPARENT;
         return DefWindowProc(message.hWnd, message.nMessage, message.wParam, message.lParam);
     });
-    m_recorder.Only({WM_LBUTTONDOWN});
-    EXPECT_EQ("top.LBUTTONDOWN", After([] { Click(150, 180); }));
+    EXPECT_EQ("top.LBUTTONDOWN", After([] { Click(170, 180); }));
 }
 
 TEST_F(UserInput, RightButtonAsksForAContextMenuUpTheTree) {
@@ -169,55 +161,6 @@ TEST_F(UserInput, PressOnAnotherWindowActivatesIt) {
     EXPECT_EQ("second.ACTIVATE top.ACTIVATE second.KILLFOCUS top.SETFOCUS child.LBUTTONDOWN",
               After([] { Click(150, 180); }));
     EXPECT_EQ(m_hTop, GetActiveWindow());
-}
-
-/// The press of a caption that a window makes up itself, as a tip without one does.
-struct DragCase {
-    const char* pszName;
-    std::function<void()> steps[3];  ///< One a timer tick.
-    POINT ptWant;
-};
-
-DragCase g_drag;
-int g_nTick;
-
-void CALLBACK DragTick(HWND, UINT, UINT_PTR, DWORD) {
-    if (g_nTick < 3 && g_drag.steps[g_nTick]) g_drag.steps[g_nTick]();
-    ++g_nTick;
-}
-
-TEST_F(UserInput, PopupIsDraggedByAMadeUpCaption) {
-    const auto to = [](int x, int y) { return [=] { SetCursorPos(x, y); }; };
-    const auto release = [] { mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0); };
-    const DragCase cases[] = {
-        {"released", {to(240, 250), release, {}}, {210, 220}},
-        {"cancelled", {to(240, 250), [] { Press(VK_ESCAPE); }, release}, {200, 200}},
-    };
-    for (const DragCase& c : cases) {
-        SCOPED_TRACE(c.pszName);
-        g_drag = c, g_nTick = 0;
-        const HWND hPopup =
-            m_recorder.Create("popup", WS_POPUP | WS_BORDER | WS_VISIBLE, m_hTop, {200, 200, 280, 260});
-        Pump();
-        SetCursorPos(230, 230);
-        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-        Pump();
-        m_recorder.Only({WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE, WM_MOVE});
-        m_recorder.Clear();
-        const UINT_PTR nTimer = SetTimer(nullptr, 0, 150, DragTick);
-        SendMessage(hPopup, WM_NCLBUTTONDOWN, HTCAPTION, 0);
-        const std::string strLog = Joined(m_recorder.Take());
-        KillTimer(nullptr, nTimer);
-        EXPECT_EQ(0u, strLog.find("popup.ENTERSIZEMOVE popup.MOVE"));
-        EXPECT_NE(std::string::npos, strLog.find("popup.EXITSIZEMOVE"));
-        RECT rc{};
-        GetWindowRect(hPopup, &rc);
-        EXPECT_EQ(c.ptWant.x, rc.left);
-        EXPECT_EQ(c.ptWant.y, rc.top);
-        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-        DestroyWindow(hPopup);
-        Pump();
-    }
 }
 
 }  // namespace

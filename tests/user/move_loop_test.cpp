@@ -31,6 +31,41 @@ protected:
         m_recorder.Create("popup", WS_POPUP | WS_BORDER | WS_VISIBLE, m_hTop, {200, 200, 280, 260});
 };
 
+TEST_F(UserMoveLoop, ThePopupFollowsTheHand) {
+    const auto to = [](int x, int y) { return [=] { SetCursorPos(x, y); }; };
+    const auto release = [] { mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0); };
+    struct Case {
+        const char* pszName;
+        std::vector<std::function<void()>> steps;  ///< One a timer tick.
+        LONG x, y;
+    };
+    for (const Case& c : {Case{"cancelled", {to(240, 250), [] { Press(VK_ESCAPE); }, release}, 200, 200},
+                          Case{"released", {to(240, 250), release}, 210, 220}}) {
+        SCOPED_TRACE(c.pszName);
+        SetCursorPos(230, 230);
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        Pump();
+        m_recorder.Only({WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE, WM_MOVE});
+        m_recorder.Clear();
+        std::size_t nTick = 0;
+        m_recorder.On(WM_TIMER, [&](const Message&) -> LRESULT {
+            if (nTick < c.steps.size()) c.steps[nTick++]();
+            return 0;
+        });
+        SetTimer(m_hPopup, 1, 150, nullptr);
+        Drag();
+        KillTimer(m_hPopup, 1);
+        const std::string strLog = Joined(m_recorder.Take());
+        EXPECT_EQ(0u, strLog.find("popup.ENTERSIZEMOVE popup.MOVE"));
+        EXPECT_NE(std::string::npos, strLog.find("popup.EXITSIZEMOVE"));
+        RECT rc{};
+        GetWindowRect(m_hPopup, &rc);
+        EXPECT_EQ((std::pair<LONG, LONG>{c.x, c.y}), (std::pair<LONG, LONG>{rc.left, rc.top}));
+        release();
+        Pump();
+    }
+}
+
 TEST_F(UserMoveLoop, QuitEndsItAndReachesTheOuterLoop) {
     m_recorder.On(WM_APP, [](const Message&) -> LRESULT { return PostQuitMessage(7), 0; });
     Drag();

@@ -1,57 +1,38 @@
 // Where top-level windows come to stand that own one another or are top-most.
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
+#include "recorder.h"
+
 namespace {
 
-constexpr const char* kClass = "owner_order";
 constexpr UINT kOrderAlone = SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE;
 
-struct OrderCase {
-    const char* pszName;
-    const char* pszOwners;  ///< Of A, B, C ...; '-' for none.
-    const char* pszBefore;  ///< Topmost first.
-    char chMoved;
-    const char* pszAfter;  ///< A window, "top", "topmost" or "nottopmost".
-    const char* pszOrder;  ///< '!' follows a top-most window.
-};
+/// Windows A, B, C ..., each with its owner; '-' for none.
+class Stack {
+public:
+    explicit Stack(const std::string& owners) {
+        for (const char chOwner : owners)
+            m_hWnds.push_back(m_recorder.Create("window", WS_POPUP, chOwner == '-' ? nullptr : At(chOwner),
+                                                {0, 0, 20, 20}));
+    }
 
-class OwnerOrder : public testing::TestWithParam<OrderCase> {
-protected:
-    OwnerOrder() {
-        WNDCLASS wc{};
-        wc.lpfnWndProc = DefWindowProc;
-        wc.hInstance = GetModuleHandle(nullptr);
-        wc.lpszClassName = kClass;
-        RegisterClass(&wc);
+    /// Puts it behind a window, or on "top", "topmost", "nottopmost".
+    BOOL Move(char chName, const std::string& after) const {
+        const HWND hAfter = after == "top"          ? HWND_TOP
+                            : after == "topmost"    ? HWND_TOPMOST
+                            : after == "nottopmost" ? HWND_NOTOPMOST
+                                                    : At(after[0]);
+        return SetWindowPos(At(chName), hAfter, 0, 0, 0, 0, kOrderAlone);
     }
-    ~OwnerOrder() override {
-        for (HWND hWnd : m_hWnds) DestroyWindow(hWnd);
-        UnregisterClass(kClass, GetModuleHandle(nullptr));
-    }
-    void Make(char chOwner) {
-        const HWND hOwner = chOwner == '-' ? nullptr : At(chOwner);
-        m_hWnds.push_back(CreateWindow(kClass, "", WS_POPUP, 0, 0, 20, 20, hOwner, nullptr,
-                                       GetModuleHandle(nullptr), nullptr));
-    }
-    HWND At(char chName) const { return m_hWnds.at(static_cast<std::size_t>(chName - 'A')); }
-    /// From the lowest to the topmost, each to the top of its kind.
-    void Stand(const std::string& order) {
-        bool bTopMost = false;
-        for (auto at = order.rbegin(); at != order.rend(); ++at) {
-            if (*at != '!')
-                SetWindowPos(At(*at), bTopMost ? HWND_TOPMOST : HWND_TOP, 0, 0, 0, 0, kOrderAlone);
-            bTopMost = *at == '!';
-        }
-    }
-    HWND Place(const std::string& after) const {
-        if (after == "top") return HWND_TOP;
-        if (after == "topmost") return HWND_TOPMOST;
-        return after == "nottopmost" ? HWND_NOTOPMOST : At(after[0]);
+    /// Topmost first; '!' follows a top-most window. Each goes to the top of its kind, the lowest first.
+    void Stand(const std::string& order) const {
+        for (std::size_t n = order.size(); n-- > 0;)
+            if (order[n] != '!')
+                Move(order[n], n + 1 < order.size() && order[n + 1] == '!' ? "topmost" : "top");
     }
     /// Other windows of the desktop are left out.
     std::string Order() const {
@@ -65,34 +46,38 @@ protected:
         return order;
     }
 
+private:
+    HWND At(char chName) const { return m_hWnds.at(static_cast<std::size_t>(chName - 'A')); }
+
+    user_test::Recorder m_recorder;
     std::vector<HWND> m_hWnds;
 };
 
-TEST_P(OwnerOrder, After) {
-    const OrderCase& c = GetParam();
-    for (const char* psz = c.pszOwners; *psz; ++psz) Make(*psz);
-    Stand(c.pszBefore);
-    ASSERT_EQ(c.pszBefore, Order());
-    EXPECT_TRUE(SetWindowPos(At(c.chMoved), Place(c.pszAfter), 0, 0, 0, 0, kOrderAlone));
-    EXPECT_EQ(c.pszOrder, Order());
+TEST(OwnerOrder, After) {
+    struct Case {
+        const char *pszName, *pszOwners, *pszBefore;
+        char chMoved;
+        const char *pszAfter, *pszOrder;
+    };
+    for (const Case& c : {Case{"owned come along to the top", "-A-", "CBA", 'A', "top", "BAC"},
+                          Case{"owned come along behind another", "-A--", "DCBA", 'A', "D", "DBAC"},
+                          Case{"owned above that place stay", "-A--", "BDCA", 'A', "C", "BDCA"},
+                          Case{"an owned one stays above its owner", "-A-", "BAC", 'B', "C", "BAC"},
+                          Case{"owned of owned come along", "-AB-", "DCBA", 'A', "top", "CBAD"},
+                          Case{"behind itself changes nothing", "-A-", "CBA", 'C', "C", "CBA"},
+                          Case{"top-most is above the rest", "---", "C!BA", 'A', "top", "C!AB"},
+                          Case{"owned come along top-most", "-A-", "C!BA", 'A', "topmost", "B!A!C!"},
+                          Case{"behind an ordinary one is ordinary", "---", "C!BA", 'C', "B", "BCA"},
+                          Case{"among top-most is top-most", "----", "D!C!BA", 'B', "D", "D!B!C!A"},
+                          Case{"behind the last top-most is ordinary", "---", "C!BA", 'A', "C", "C!AB"},
+                          Case{"no longer top-most", "---", "C!B!A", 'C', "nottopmost", "B!CA"}}) {
+        SCOPED_TRACE(c.pszName);
+        const Stack stack(c.pszOwners);
+        stack.Stand(c.pszBefore);
+        ASSERT_EQ(c.pszBefore, stack.Order());
+        EXPECT_TRUE(stack.Move(c.chMoved, c.pszAfter));
+        EXPECT_EQ(c.pszOrder, stack.Order());
+    }
 }
-
-constexpr OrderCase kCases[] = {
-    {"OwnedComeAlongToTheTop", "-A-", "CBA", 'A', "top", "BAC"},
-    {"OwnedComeAlongBehindAnother", "-A--", "DCBA", 'A', "D", "DBAC"},
-    {"OwnedAboveThatPlaceStay", "-A--", "BDCA", 'A', "C", "BDCA"},
-    {"AnOwnedOneStaysAboveItsOwner", "-A-", "BAC", 'B', "C", "BAC"},
-    {"OwnedOfOwnedComeAlong", "-AB-", "DCBA", 'A', "top", "CBAD"},
-    {"BehindItselfChangesNothing", "-A-", "CBA", 'C', "C", "CBA"},
-    {"TopmostIsAboveTheRest", "---", "C!BA", 'A', "top", "C!AB"},
-    {"OwnedComeAlongTopmost", "-A-", "C!BA", 'A', "topmost", "B!A!C!"},
-    {"BehindAnOrdinaryOneIsOrdinary", "---", "C!BA", 'C', "B", "BCA"},
-    {"AmongTopmostIsTopmost", "----", "D!C!BA", 'B', "D", "D!B!C!A"},
-    {"BehindTheLastTopmostIsOrdinary", "---", "C!BA", 'A', "C", "C!AB"},
-    {"NoLongerTopmost", "---", "C!B!A", 'C', "nottopmost", "B!CA"},
-};
-
-INSTANTIATE_TEST_SUITE_P(User, OwnerOrder, testing::ValuesIn(kCases),
-                         [](const auto& test) { return std::string(test.param.pszName); });
 
 }  // namespace

@@ -53,12 +53,10 @@ Recorder::~Recorder() {
     UnregisterClass("redrawer", GetModuleHandle(nullptr));
 }
 
-HWND Recorder::Create(const char* pszName, DWORD dwStyle, HWND hParent, RECT rc, const char* pszClass,
-                      DWORD dwExStyle, int nId) {
+HWND Recorder::Create(const char* pszName, DWORD dwStyle, HWND hParent, RECT rc, const char* pszClass) {
     m_nextName = pszName;
-    return CreateWindowEx(dwExStyle, pszClass, pszName, dwStyle, rc.left, rc.top, rc.right - rc.left,
-                          rc.bottom - rc.top, hParent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(nId)),
-                          GetModuleHandle(nullptr), nullptr);
+    return CreateWindow(pszClass, pszName, dwStyle, rc.left, rc.top, rc.right - rc.left, rc.bottom - rc.top,
+                        hParent, nullptr, GetModuleHandle(nullptr), nullptr);
 }
 
 HWND Recorder::CreateTop(const char* pszName) {

@@ -30,8 +30,7 @@ public:
     Recorder& operator=(const Recorder&) = delete;
 
     /// The class "recorder" has CS_DBLCLKS and a white background, "redrawer" CS_HREDRAW | CS_VREDRAW.
-    HWND Create(const char* pszName, DWORD dwStyle, HWND hParent, RECT rc, const char* pszClass = "recorder",
-                DWORD dwExStyle = 0, int nId = 0);
+    HWND Create(const char* pszName, DWORD dwStyle, HWND hParent, RECT rc, const char* pszClass = "recorder");
     HWND CreateTop(const char* pszName = "top");  ///< Shown at (100,100), 400 by 300, painted, log cleared.
     HWND CreateChild(HWND hParent, const char* pszName = "child");  ///< At (10,10), 100 by 80, likewise.
 

@@ -8,39 +8,25 @@ using namespace user_test;
 
 namespace {
 
-HINSTANCE Instance() { return GetModuleHandle(nullptr); }
-
-WNDCLASS PlainClass(const char* pszName) {
-    WNDCLASS wc{};
-    wc.lpfnWndProc = DefWindowProc;
-    wc.hInstance = Instance();
-    wc.lpszClassName = pszName;
-    return wc;
-}
-
 TEST(UserClasses, RulesOfRegistering) {
-    const WNDCLASS wc = PlainClass("life_class");
+    const HINSTANCE hInstance = GetModuleHandle(nullptr);
+    WNDCLASS wc{}, found{};
+    wc.lpfnWndProc = DefWindowProc, wc.hInstance = hInstance, wc.lpszClassName = "life_class";
+    const auto refused = [](BOOL bDone, DWORD dwError) { return !bDone && GetLastError() == dwError; };
     const ATOM nAtom = RegisterClass(&wc);
     ASSERT_NE(0, nAtom);
-    SetLastError(0);
-    EXPECT_EQ(0, RegisterClass(&wc));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_CLASS_ALREADY_EXISTS), GetLastError());
-    WNDCLASS found{};
-    EXPECT_TRUE(GetClassInfo(Instance(), "LIFE_Class", &found)) << "names have no case";
+    EXPECT_TRUE(refused(RegisterClass(&wc), ERROR_CLASS_ALREADY_EXISTS));
+    EXPECT_TRUE(GetClassInfo(hInstance, "LIFE_Class", &found)) << "names have no case";
     EXPECT_EQ(wc.lpfnWndProc, found.lpfnWndProc);
-    EXPECT_TRUE(GetClassInfo(Instance(), MAKEINTRESOURCE(nAtom), &found));
-    const HWND hWnd = CreateWindow(MAKEINTRESOURCE(nAtom), "x", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr,
-                                   Instance(), nullptr);
+    EXPECT_TRUE(GetClassInfo(hInstance, MAKEINTRESOURCE(nAtom), &found));
+    const HWND hWnd =
+        CreateWindow(MAKEINTRESOURCE(nAtom), "x", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, hInstance, nullptr);
     EXPECT_TRUE(IsWindow(hWnd));
-    SetLastError(0);
-    EXPECT_FALSE(UnregisterClass("life_class", Instance()));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_CLASS_HAS_WINDOWS), GetLastError());
+    EXPECT_TRUE(refused(UnregisterClass("life_class", hInstance), ERROR_CLASS_HAS_WINDOWS));
     DestroyWindow(hWnd);
-    EXPECT_TRUE(UnregisterClass("life_class", Instance()));
-    SetLastError(0);
-    EXPECT_FALSE(UnregisterClass("life_class", Instance()));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_CLASS_DOES_NOT_EXIST), GetLastError());
-    EXPECT_FALSE(GetClassInfo(Instance(), "life_class", &found));
+    EXPECT_TRUE(UnregisterClass("life_class", hInstance));
+    EXPECT_TRUE(refused(UnregisterClass("life_class", hInstance), ERROR_CLASS_DOES_NOT_EXIST));
+    EXPECT_FALSE(GetClassInfo(hInstance, "life_class", &found));
 }
 
 class UserWindows : public testing::Test {
@@ -50,7 +36,8 @@ protected:
     HWND m_hChild = m_recorder.CreateChild(m_hTop);
 };
 
-TEST_F(UserWindows, CreationErrors) {
+TEST_F(UserWindows, RefusedCreation) {
+    m_recorder.Only({WM_NCCREATE, WM_CREATE, WM_NCDESTROY});
     SetLastError(0);
     EXPECT_EQ(nullptr, m_recorder.Create("x", WS_CHILD, nullptr, {0, 0, 9, 9}));
     EXPECT_EQ(static_cast<DWORD>(ERROR_TLW_WITH_WSCHILD), GetLastError());
@@ -58,53 +45,19 @@ TEST_F(UserWindows, CreationErrors) {
     EXPECT_EQ(nullptr, m_recorder.Create("x", WS_CHILD, reinterpret_cast<HWND>(0x1234568), {0, 0, 9, 9}));
     EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE), GetLastError());
     EXPECT_EQ(nullptr, m_recorder.Create("x", WS_CHILD, m_hTop, {0, 0, 9, 9}, "no such class"));
-}
-
-HHOOK g_hHook;
-const char* g_pszRefused;
-int g_nSeen;
-
-LRESULT CALLBACK RefuseByName(int nCode, WPARAM wParam, LPARAM lParam) {
-    if (nCode != HCBT_CREATEWND) return CallNextHookEx(g_hHook, nCode, wParam, lParam);
-    const CREATESTRUCT* pCreate = reinterpret_cast<CBT_CREATEWND*>(lParam)->lpcs;
-    if (std::string(pCreate->lpszName ? pCreate->lpszName : "") != g_pszRefused) return 0;
-    ++g_nSeen;
-    return 1;
-}
-
-TEST_F(UserWindows, HookSeesAndRefusesCreation) {
-    g_pszRefused = "refused", g_nSeen = 0;
-    g_hHook = SetWindowsHookEx(WH_CBT, RefuseByName, nullptr, GetCurrentThreadId());
-    ASSERT_NE(nullptr, g_hHook);
-    m_recorder.Clear();
-    EXPECT_EQ(nullptr, m_recorder.Create("refused", WS_CHILD, m_hTop, {0, 0, 9, 9}));
-    EXPECT_EQ("", Joined(m_recorder.Take())) << "no message reaches a window that was refused";
-    EXPECT_NE(nullptr, m_recorder.Create("wanted", WS_CHILD, m_hTop, {0, 0, 9, 9}));
-    EXPECT_EQ(1, g_nSeen);
-    EXPECT_TRUE(UnhookWindowsHookEx(g_hHook));
-    EXPECT_FALSE(UnhookWindowsHookEx(g_hHook));
+    m_recorder.On(WM_CREATE, [](const Message&) -> LRESULT { return -1; });
+    EXPECT_EQ(nullptr, m_recorder.Create("child", WS_CHILD, m_hTop, {0, 0, 9, 9}));
+    EXPECT_EQ("child.NCCREATE child.CREATE child.NCDESTROY", Joined(m_recorder.Take()));
+    m_recorder.On(WM_NCCREATE, [](const Message&) -> LRESULT { return FALSE; });
+    EXPECT_EQ(nullptr, m_recorder.Create("child", WS_CHILD, m_hTop, {0, 0, 9, 9}));
+    EXPECT_EQ("child.NCCREATE child.NCDESTROY", Joined(m_recorder.Take()));
 }
 
 TEST_F(UserWindows, DestructionInsideAHandler) {
-    const UINT messages[] = {WM_SIZE,
-                             WM_MOVE,
-                             WM_PAINT,
-                             WM_ERASEBKGND,
-                             WM_WINDOWPOSCHANGING,
-                             WM_WINDOWPOSCHANGED,
-                             WM_SHOWWINDOW,
-                             WM_SETFOCUS,
-                             WM_KILLFOCUS,
-                             WM_NCHITTEST,
-                             WM_SETCURSOR,
-                             WM_LBUTTONDOWN,
-                             WM_MOUSEMOVE,
-                             WM_CAPTURECHANGED,
-                             WM_NCCALCSIZE,
-                             WM_NCPAINT,
-                             WM_DESTROY,
-                             WM_APP};
-    for (UINT nMessage : messages) {
+    for (UINT nMessage :
+         {WM_SIZE, WM_MOVE, WM_PAINT, WM_ERASEBKGND, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_SHOWWINDOW,
+          WM_SETFOCUS, WM_KILLFOCUS, WM_NCHITTEST, WM_SETCURSOR, WM_LBUTTONDOWN, WM_MOUSEMOVE,
+          WM_CAPTURECHANGED, WM_NCCALCSIZE, WM_NCPAINT, WM_DESTROY, WM_APP}) {
         SCOPED_TRACE(nMessage);
         const HWND hWnd = m_recorder.Create("doomed", WS_CHILD | WS_VISIBLE, m_hTop, {20, 20, 80, 70});
         Pump();
@@ -145,6 +98,10 @@ TEST_F(UserWindows, StaleHandlesAreRefused) {
         EXPECT_EQ(nullptr, GetParent(hWnd));
     }
     EXPECT_FALSE(PostMessage(m_hChild, WM_APP, 0, 0));
+    ICONINFO info{};
+    EXPECT_EQ(nullptr, CreateIconIndirect(&info));
+    EXPECT_FALSE(GetIconInfo(nullptr, &info));
+    EXPECT_EQ(nullptr, LoadCursor(nullptr, MAKEINTRESOURCE(77)));
 }
 
 TEST_F(UserWindows, SubclassingAndExtraValues) {
@@ -159,39 +116,6 @@ TEST_F(UserWindows, SubclassingAndExtraValues) {
     EXPECT_EQ("child.ENABLE", Joined(m_recorder.Take()));
 }
 
-TEST_F(UserWindows, TreeAndOrder) {
-    const HWND hSecond = m_recorder.Create("second", WS_CHILD, m_hTop, {0, 0, 9, 9}, "recorder", 0, 77);
-    EXPECT_EQ(m_hChild, GetWindow(m_hTop, GW_CHILD)) << "new children go below";
-    EXPECT_EQ(hSecond, GetWindow(m_hChild, GW_HWNDNEXT));
-    EXPECT_EQ(hSecond, GetDlgItem(m_hTop, 77));
-    EXPECT_EQ(77, GetDlgCtrlID(hSecond));
-    SetWindowPos(hSecond, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    EXPECT_EQ(hSecond, GetTopWindow(m_hTop));
-    EXPECT_NE(nullptr, SetParent(hSecond, m_hChild));
-    EXPECT_EQ(m_hChild, GetParent(hSecond));
-    EXPECT_TRUE(IsChild(m_hTop, hSecond));
-    EXPECT_EQ(m_hTop, GetAncestor(hSecond, GA_ROOT));
-    EXPECT_EQ(nullptr, SetParent(m_hChild, hSecond)) << "no circles";
-}
-
-TEST_F(UserWindows, QueueOrder) {
-    MSG msg;
-    Pump();
-    PostQuitMessage(7);
-    InvalidateRect(m_hChild, nullptr, FALSE);
-    PostMessage(m_hChild, WM_APP + 1, 0, 0);
-    PostMessage(m_hTop, WM_APP + 2, 0, 0);
-    ASSERT_TRUE(PeekMessage(&msg, nullptr, WM_APP + 2, WM_APP + 2, PM_REMOVE));
-    EXPECT_EQ(m_hTop, msg.hwnd);
-    EXPECT_TRUE(GetMessage(&msg, nullptr, 0, 0));
-    EXPECT_EQ(static_cast<UINT>(WM_APP + 1), msg.message);
-    EXPECT_FALSE(GetMessage(&msg, nullptr, 0, 0));
-    EXPECT_EQ(7u, msg.wParam);
-    ASSERT_TRUE(PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(static_cast<UINT>(WM_PAINT), msg.message);
-    ValidateRect(m_hChild, nullptr);
-}
-
 TEST_F(UserWindows, TimersFireUntilKilled) {
     int nTicks = 0;
     m_recorder.On(WM_TIMER,
@@ -203,24 +127,55 @@ TEST_F(UserWindows, TimersFireUntilKilled) {
     EXPECT_FALSE(KillTimer(m_hTop, 5));
 }
 
-TEST_F(UserWindows, RoundsLeaveNoObjects) {
-    const auto round = [this] {
-        const HWND hTop =
-            m_recorder.Create("round", WS_OVERLAPPEDWINDOW | WS_VISIBLE, nullptr, {50, 50, 300, 250});
-        for (int i = 0; i < 5; ++i)
-            m_recorder.Create("part", WS_CHILD | WS_VISIBLE, hTop, {i * 20, 0, i * 20 + 30, 40});
-        UpdateWindow(hTop);
-        const HMENU hMenu = CreatePopupMenu();
-        DestroyMenu(hMenu);
-        DestroyWindow(hTop);
-        Pump();
+TEST_F(UserWindows, UnvalidatedPaintComesAgain) {
+    int nPaints = 0;
+    m_recorder.On(WM_PAINT, [&](const Message&) -> LRESULT { return ++nPaints, 0; });
+    InvalidateRect(m_hChild, nullptr, FALSE);
+    MSG msg;
+    for (int i = 0; i < 3 && PeekMessage(&msg, m_hChild, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
+        DispatchMessage(&msg);
+    EXPECT_EQ(3, nPaints);
+    PostMessage(m_hChild, WM_APP, 0, 0);
+    ASSERT_TRUE(PeekMessage(&msg, m_hChild, 0, 0, PM_REMOVE));
+    EXPECT_EQ(static_cast<UINT>(WM_APP), msg.message) << "posted messages come before painting";
+    ValidateRect(m_hChild, nullptr);
+}
+
+TEST_F(UserWindows, HiddenAndDeadWindowsAreNotInvalidated) {
+    ShowWindow(m_hChild, SW_HIDE);
+    InvalidateRect(m_hChild, nullptr, TRUE);
+    EXPECT_FALSE(GetUpdateRect(m_hChild, nullptr, FALSE));
+    DestroyWindow(m_hChild);
+    EXPECT_FALSE(InvalidateRect(m_hChild, nullptr, TRUE));
+    EXPECT_FALSE(GetUpdateRect(m_hChild, nullptr, FALSE));
+    EXPECT_EQ(nullptr, GetDC(m_hChild));
+}
+
+TEST_F(UserWindows, TheScreenShowsWhatLiesOnTop) {
+    const auto fill = [](HWND hWnd, int nStockBrush) {
+        const HDC hdc = GetDC(hWnd);
+        RECT rc;
+        GetClientRect(hWnd, &rc);
+        FillRect(hdc, &rc, static_cast<HBRUSH>(GetStockObject(nStockBrush)));
+        ReleaseDC(hWnd, hdc);
     };
-    round();
-    const DWORD nUser = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const DWORD nGdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int i = 0; i < 3; ++i) round();
-    EXPECT_EQ(nUser, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
-    EXPECT_EQ(nGdi, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    const auto screen = [](int x, int y) {
+        Pump();  // drawing may reach the screen a little later
+        const HDC hdc = GetDC(nullptr);
+        const COLORREF clr = GetPixel(hdc, x, y);
+        ReleaseDC(nullptr, hdc);
+        return clr;
+    };
+    fill(m_hChild, BLACK_BRUSH);
+    EXPECT_EQ(RGB(0, 0, 0), screen(130, 150));
+    const HWND hPopup = m_recorder.Create("popup", WS_POPUP | WS_VISIBLE, m_hTop, {120, 140, 160, 180});
+    Pump();
+    fill(hPopup, GRAY_BRUSH);
+    EXPECT_EQ(RGB(128, 128, 128), screen(130, 150));
+    MoveWindow(hPopup, 300, 300, 40, 40, TRUE);
+    EXPECT_EQ(RGB(128, 128, 128), screen(310, 310));
+    fill(m_hChild, BLACK_BRUSH);
+    EXPECT_EQ(RGB(0, 0, 0), screen(130, 150));
 }
 
 bool CarriesPointer(UINT nMessage) {
