@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <optional>
 #include <string>
 
@@ -51,10 +52,12 @@ public:
     const ScatterLayout& Layout() const { return m_state; }
     CPoint At(CPoint ptPlot) const { return PlotRect(m_state).TopLeft() + ptPlot; }
     CPoint At(int x, int y) const { return At(CPoint(x, y)); }
-
-    void SendAt(UINT nMouseMessage, CPoint ptPlot) {
-        this->Send(nMouseMessage, 0, MAKELPARAM(At(ptPlot).x, At(ptPlot).y));
+    /// Where a value pair stands in the full range.
+    CPoint PixelOf(double dX, double dY) const {
+        return At(static_cast<int>(dX * 4), static_cast<int>((10 - dY) * 20));
     }
+
+    void SendAt(UINT nMouseMessage, CPoint ptPlot) { this->Mouse(nMouseMessage, At(ptPlot)); }
     void MoveTo(CPoint ptPlot) { SendAt(WM_MOUSEMOVE, ptPlot); }
     void Zoom(const CRect& rcPlot) {
         SendAt(WM_LBUTTONDOWN, rcPlot.TopLeft());
@@ -84,30 +87,22 @@ public:
         for (const Spot& spot : k_spots) ExpectSpot(shot, spot);
     }
 
-    /// The picture with a band drawn over it; the rectangle counts from the plot rectangle.
-    Shot WithBand(Shot shot, CRect rcBand) const {
-        rcBand.OffsetRect(At(0, 0));
-        for (int y = rcBand.top; y < rcBand.bottom; ++y)
-            for (int x = rcBand.left; x < rcBand.right; ++x)
-                if (x == rcBand.left || x == rcBand.right - 1 || y == rcBand.top || y == rcBand.bottom - 1)
-                    Pixel(shot, x, y) ^= 0x00FFFF;
-        return shot;
-    }
-    /// Over the background it is seen by its colour.
-    static bool HasBand(const Shot& shot) { return std::ranges::count(shot.pixels, 0x00FFFFu) != 0; }
-    /// With a cross-hair.
-    Shot WithCross(Shot shot, CPoint ptPlot) const {
-        const CRect& rc = m_state.m_rcShaft;
-        const CPoint pt = At(ptPlot);
-        for (int x = rc.left; x < rc.right; ++x) Pixel(shot, x, pt.y) = 0x969696;
-        for (int y = rc.top + 1; y < rc.bottom; ++y) Pixel(shot, pt.x, y) = 0x969696;
-        return shot;
+    /// By its colour over the background; counts from the plot rectangle.
+    std::optional<CRect> BandIn(const Shot& shot) const {
+        CRect rcBand(INT_MAX, INT_MAX, INT_MIN, INT_MIN);
+        for (int y = 0; y < shot.cy; ++y)
+            for (int x = 0; x < shot.cx; ++x)
+                if (shot.At(x, y) == RGB(0, 255, 255))
+                    rcBand = CRect(std::min<int>(rcBand.left, x), std::min<int>(rcBand.top, y),
+                                   std::max<int>(rcBand.right, x + 1), std::max<int>(rcBand.bottom, y + 1));
+        if (rcBand.left == INT_MAX) return std::nullopt;
+        return rcBand - At(0, 0);
     }
     std::optional<CPoint> CrossIn(const Shot& shot) const {
         const CRect& rc = m_state.m_rcShaft;
         CPoint pt(rc.left + 2, rc.top + 2);
-        while (pt.x < rc.right && shot.At(pt.x, rc.top + 2) != RGB(150, 150, 150)) ++pt.x;
-        while (pt.y < rc.bottom && shot.At(rc.left + 2, pt.y) != RGB(150, 150, 150)) ++pt.y;
+        while (pt.x < rc.right && shot.At(pt.x, rc.bottom - 2) != RGB(150, 150, 150)) ++pt.x;
+        while (pt.y < rc.bottom && shot.At(rc.right - 3, pt.y) != RGB(150, 150, 150)) ++pt.y;
         if (pt.x == rc.right && pt.y == rc.bottom) return std::nullopt;
         return pt - At(0, 0);
     }
@@ -136,9 +131,6 @@ private:
         const bool bShown = x.range.Contains(spot.dX) && y.range.Contains(spot.dY);
         if (!bShown && !m_state.m_rcShaft.PtInRect(CPoint(pt.x - 2, pt.y - 2))) return;
         EXPECT_EQ(bShown, DiscAt(shot, pt) != '-') << spot.pszCode;
-    }
-    static std::uint32_t& Pixel(Shot& shot, int x, int y) {
-        return shot.pixels.at(static_cast<std::size_t>(y) * shot.cx + x);
     }
 
     ScatterState m_state;

@@ -93,31 +93,24 @@ public:
     explicit ChartWindow(int cx = 800, int cy = 600) {
         m_host.CreateEx(0, AfxRegisterWndClass(0), "host", WS_POPUP, 0, 0, 1000, 800, nullptr, nullptr);
         m_host.ShowWindow(SW_SHOWNOACTIVATE);  // an active window waits long for the desktop when it goes
-        m_bCreated = chart.Create(&m_host, CRect(0, 0, cx, cy), 1) != FALSE;
-        m_hWnd = ::GetDlgItem(m_host.GetSafeHwnd(), 1);
+        CreateChart(CRect(0, 0, cx, cy));
     }
 
     Chart chart;
 
-    bool IsCreated() const { return m_bCreated; }
     HWND Handle() const { return m_hWnd; }
     void Recreate() {
         CRect rc;
         ::GetClientRect(m_hWnd, &rc);
         ::DestroyWindow(m_hWnd);
-        chart.Create(&m_host, rc, 1);
-        m_hWnd = ::GetDlgItem(m_host.GetSafeHwnd(), 1);
+        CreateChart(rc);
     }
     void Resize(int cx, int cy) { ::MoveWindow(m_hWnd, 0, 0, cx, cy, TRUE); }
 
     LRESULT Send(UINT nMessage, WPARAM wParam = 0, LPARAM lParam = 0) {
         return ::SendMessage(m_hWnd, nMessage, wParam, lParam);
     }
-    void Move(int x, int y) { Send(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
-    void Press(CPoint pt) { Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pt.x, pt.y)); }
-    void Drag(CPoint pt) { Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(pt.x, pt.y)); }
-    void Release(CPoint pt) { Send(WM_LBUTTONUP, 0, MAKELPARAM(pt.x, pt.y)); }
-    void Leave() { Send(WM_MOUSELEAVE); }
+    void Mouse(UINT nMessage, CPoint pt) { Send(nMessage, 0, MAKELPARAM(pt.x, pt.y)); }
     void Command(UINT nID) { Send(WM_COMMAND, nID); }
 
     /// A record of the chart's own kind; nMark is its block, or the sign that gives a star its colour.
@@ -130,6 +123,7 @@ public:
     int Put(const char* pszCode, double dX, double dY, int nMark = 0) {
         return chart.SetData(MakeRecord(pszCode, dX, dY, nMark));
     }
+    /// These and no others.
     void Feed(std::initializer_list<Record> records) {
         chart.Init();
         for (const Record& record : records) chart.SetData(record);
@@ -151,13 +145,8 @@ public:
         ::InvalidateRect(m_hWnd, nullptr, TRUE);
         return Take();
     }
-    /// What waits to be repainted.
-    void Invalid(CRgn& rgn) {
-        rgn.CreateRectRgn(0, 0, 0, 0);
-        ::GetUpdateRgn(m_hWnd, rgn, FALSE);
-    }
     bool IsInvalid() const { return ::GetUpdateRect(m_hWnd, nullptr, FALSE) != FALSE; }
-    /// Whether just these rectangles wait.
+    /// Whether just these rectangles wait to be repainted.
     bool IsJustInvalid(std::initializer_list<CRect> rects) {
         CRgn rgnWant, rgn;
         rgnWant.CreateRectRgn(0, 0, 0, 0);
@@ -166,17 +155,17 @@ public:
             rgnPart.CreateRectRgnIndirect(&rc);
             rgnWant.CombineRgn(&rgnWant, &rgnPart, RGN_OR);
         }
-        Invalid(rgn);
+        rgn.CreateRectRgn(0, 0, 0, 0);
+        ::GetUpdateRgn(m_hWnd, rgn, FALSE);
         return rgn.EqualRgn(&rgnWant) != FALSE;
     }
 
 private:
+    void CreateChart(const CRect& rc) {
+        chart.Create(&m_host, rc, 1);
+        m_hWnd = ::GetDlgItem(m_host.GetSafeHwnd(), 1);
+    }
+
     CWnd m_host;
     HWND m_hWnd = nullptr;
-    bool m_bCreated = false;
-};
-
-struct RadarWindow : ChartWindow<CRoePointCtrl> {
-    using ChartWindow::ChartWindow;
-    CRoePointCtrl& radar = chart;
 };

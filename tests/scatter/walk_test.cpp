@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "radar_window.h"
+#include "chart_view.h"
 
 namespace {
 constexpr int k_nMostWidth = 260, k_nMostHeight = 200;
@@ -20,13 +20,13 @@ public:
     /// Does one thing and compares; its name is for the failure.
     void Step(int nStep) {
         const Action& action = AnyAction();
-        (this->*action.pfnDo)();
+        action.pfnDo(*this);
         const Shot part = m_window.Take(), whole = m_window.TakeWhole();
         ExpectSame(part, whole, nStep, action.pszName);
         if (nStep % k_nAnewEvery != 0) return;
-        m_window.Leave();  // a new size would end a band as well
+        m_window.Send(WM_MOUSELEAVE);  // a new size would end a band as well
         const Shot kept = m_window.TakeWhole();
-        DrawAnew();
+        m_window.Send(WM_SIZE);  // draws it anew
         if (!m_bLayerLate) ExpectSame(kept, m_window.Take(), nStep, "drawn anew");
         m_bLayerLate = false;
         m_window.Paint();
@@ -36,24 +36,24 @@ private:
     struct Action {
         const char* pszName;
         int nWeight;
-        void (Walk::*pfnDo)();
+        void (*pfnDo)(Walk&);
     };
     static constexpr Action k_actions[] = {
-        {"move", 60, &Walk::Move},
-        {"press", 10, &Walk::Press},
-        {"release", 8, &Walk::Release},
-        {"leave", 1, &Walk::Leave},
-        {"command", 6, &Walk::Command},
-        {"resize", 2, &Walk::Resize},
-        {"ask for a part", 4, &Walk::InvalidatePart},
-        {"put a point", 2, &Walk::PutPointAndPaint},
-        {"play", 1, &Walk::Play},
-        {"refill", 1, &Walk::Refill},
-        {"empty", 1, &Walk::Empty},
-        {"look above the points", 3, &Walk::LookAbove},
-        {"look below the points", 2, &Walk::LookBelow},
-        {"of its own", 3, &Walk::OwnThing},
-        {"two things at once", 6, &Walk::TwoThings},
+        {"move", 60, [](Walk& w) { w.m_window.Mouse(WM_MOUSEMOVE, w.Somewhere()); }},
+        {"press", 10, [](Walk& w) { w.m_window.Mouse(WM_LBUTTONDOWN, w.Somewhere()); }},
+        {"release", 8, [](Walk& w) { w.m_window.Mouse(WM_LBUTTONUP, w.Somewhere()); }},
+        {"leave", 1, [](Walk& w) { w.m_window.Send(WM_MOUSELEAVE); }},
+        {"command", 6, [](Walk& w) { w.m_window.Command(100 + static_cast<UINT>(w.UpTo(6))); }},
+        {"resize", 2, [](Walk& w) { w.Resize(); }},
+        {"ask for a part", 4, [](Walk& w) { w.InvalidatePart(); }},
+        {"put a point", 2, [](Walk& w) { w.PutPointAndPaint(); }},
+        {"play", 1, [](Walk& w) { w.Play(); }},
+        {"refill", 1, [](Walk& w) { w.Refill(); }},
+        {"empty", 1, [](Walk& w) { w.m_window.chart.Init(); }},
+        {"look above the points", 3, [](Walk& w) { w.LookAbove(); }},
+        {"look below the points", 2, [](Walk& w) { w.LookBelow(); }},
+        {"of its own", 3, [](Walk& w) { w.OwnThing(); }},
+        {"two things at once", 6, [](Walk& w) { w.AnyAction().pfnDo(w), w.AnyAction().pfnDo(w); }},
     };
 
     int UpTo(int n) { return static_cast<int>(m_random() % static_cast<unsigned>(n)); }
@@ -76,14 +76,6 @@ private:
             << "step " << nStep << ", " << pszName << ": at " << pt.x << "," << pt.y;
     }
 
-    void Move() {
-        const CPoint pt = Somewhere();
-        m_window.Move(pt.x, pt.y);
-    }
-    void Press() { m_window.Press(Somewhere()); }
-    void Release() { m_window.Release(Somewhere()); }
-    void Leave() { m_window.Leave(); }
-    void Command() { m_window.Command(100 + static_cast<UINT>(UpTo(6))); }
     void Resize() {
         const int cx = UpTo(k_nMostWidth) + 1;
         m_window.Resize(cx, UpTo(k_nMostHeight) + 1);
@@ -113,36 +105,27 @@ private:
         for (int n = UpTo(40); n > 0; --n) PutPoint();
         m_window.chart.Play();
     }
-    void Empty() { m_window.chart.Init(); }
     void LookAbove() {
         CTime time(2018, 9, 21, UpTo(24), 4, 5);
-        switch (UpTo(4)) {
-            case 0:
-                return m_window.chart.SetFontColor(Colour());
-            case 1:
-                return m_window.chart.SetCoordinateShaftLineColor(Colour());
-            case 2:
-                return m_window.chart.SetCoordinateShaftFontSize(8 + UpTo(12));
-            default:
-                return m_window.chart.SetUpdateTime(time);
-        }
+        const int nWhat = UpTo(4);
+        if (nWhat == 0) m_window.chart.SetFontColor(Colour());
+        if (nWhat == 1) m_window.chart.SetCoordinateShaftLineColor(Colour());
+        if (nWhat == 2) m_window.chart.SetCoordinateShaftFontSize(8 + UpTo(12));
+        if (nWhat == 3) m_window.chart.SetUpdateTime(time);
     }
     void LookBelow() {
         m_bLayerLate = true;
         Chart& chart = m_window.chart;
         const double dX = UpTo(100), dY = UpTo(20) - 10;
-        switch (UpTo(4)) {
-            case 0:
-                return chart.SetGirdVisble(UpTo(2) == 0);
-            case 1:
-                return chart.SetBorderColor(Colour());
-            case 2:
-                if constexpr (requires { chart.SetGateBkColor(0); }) chart.SetGateBkColor(Colour());
-                return;
-            default:
-                if constexpr (requires { chart.SetGate(0, 0); }) chart.SetGate(dX, dY);
-                if constexpr (requires { chart.SetWestGate(0, 0); }) chart.SetWestGate(dX, dY);
-        }
+        const int nWhat = UpTo(4);
+        if (nWhat == 0) chart.SetGirdVisble(UpTo(2) == 0);
+        if (nWhat == 1) chart.SetBorderColor(Colour());
+        if constexpr (requires { chart.SetGateBkColor(0); })
+            if (nWhat == 2) chart.SetGateBkColor(Colour());
+        if constexpr (requires { chart.SetGate(0, 0); })
+            if (nWhat == 3) chart.SetGate(dX, dY);
+        if constexpr (requires { chart.SetWestGate(0, 0); })
+            if (nWhat == 3) chart.SetWestGate(dX, dY);
     }
     void OwnThing() {
         if constexpr (std::is_same_v<Chart, CProxy_PointStartCtrl>) {
@@ -153,14 +136,6 @@ private:
             if (UpTo(2) == 0) AfxPreTranslateMessage(&msgEscape);
         }
     }
-    void TwoThings() {
-        for (int n = 0; n < 2; ++n) (this->*AnyAction().pfnDo)();
-    }
-    void DrawAnew() {
-        CRect rc;
-        ::GetClientRect(m_window.Handle(), &rc);
-        m_window.Send(WM_SIZE, SIZE_RESTORED, MAKELPARAM(rc.Width(), rc.Height()));
-    }
 
     std::mt19937 m_random{20180921};
     ChartWindow<Chart> m_window;
@@ -169,8 +144,7 @@ private:
 
 template <class Chart>
 class ScatterWalk : public testing::Test {};
-using Charts = testing::Types<CProxy_RoePointCtrl, CProxy_PointRadarCtrl, CProxy_PointStartCtrl>;
-TYPED_TEST_SUITE(ScatterWalk, Charts);
+TYPED_TEST_SUITE(ScatterWalk, ScatterCharts, ChartNames);
 }  // namespace
 
 TYPED_TEST(ScatterWalk, PartEqualsWhole) {
