@@ -52,21 +52,14 @@ TEST(ResourceModules, TheProgramIsAskedAfterTheCurrentOne) {
     EXPECT_TRUE(bitmap.LoadBitmap(3000));
 }
 
-TEST(ResourceModules, AnUnloadedLibraryIsNotTheCurrentOne) {
-    const ModuleScope scope;
-    ASSERT_TRUE(AttachLibrary(FakeModule()));
-    EXPECT_EQ(FakeModule(), LibraryInstance());
-    AfxSetResourceHandle(FakeModule());
-    DetachLibrary();
-    EXPECT_EQ(AfxGetInstanceHandle(), AfxGetResourceHandle());
-    EXPECT_EQ(nullptr, LibraryInstance());
-}
-
-TEST(ResourceModules, UnloadingLeavesAnotherCurrentOneAlone) {
-    const ModuleScope scope;
-    ASSERT_TRUE(AttachLibrary(FakeModule()));
-    const HINSTANCE hOther = FakeModule(1);
-    AfxSetResourceHandle(hOther);
-    DetachLibrary();
-    EXPECT_EQ(hOther, AfxGetResourceHandle());
+TEST(ResourceModules, UnloadingLeavesNoneButAnotherCurrentOne) {
+    for (const bool bAnother : {false, true}) {
+        const ModuleScope scope;
+        ASSERT_TRUE(AttachLibrary(FakeModule()));
+        EXPECT_EQ(FakeModule(), LibraryInstance());
+        AfxSetResourceHandle(FakeModule(bAnother ? 1 : 0));
+        DetachLibrary();
+        EXPECT_EQ(bAnother ? FakeModule(1) : AfxGetInstanceHandle(), AfxGetResourceHandle());
+        EXPECT_EQ(nullptr, LibraryInstance());
+    }
 }

@@ -8,87 +8,62 @@
 #include "canvas.h"
 
 namespace {
-/// Row or column of the canvas as text: '#' red, '.' anything else.
-std::string Row(const Canvas& canvas, int y, int cx) {
-    std::string row;
-    for (int x = 0; x < cx; ++x) row += canvas.dc.GetPixel(x, y) == k_clrRed ? '#' : '.';
-    return row;
-}
-std::string Column(const Canvas& canvas, int x, int cy) {
-    std::string column;
-    for (int y = 0; y < cy; ++y) column += canvas.dc.GetPixel(x, y) == k_clrRed ? '#' : '.';
-    return column;
+constexpr int k_nSide = 24;
+
+/// Row or column 10 of the canvas as text: '#' red, '.' anything else.
+std::string Cut(const Canvas& canvas, bool bRow) {
+    std::string text;
+    for (int n = 0; n < k_nSide; ++n)
+        text += (bRow ? canvas.dc.GetPixel(n, 10) : canvas.dc.GetPixel(10, n)) == k_clrRed ? '#' : '.';
+    return text;
 }
 }  // namespace
 
-TEST(DrawSolidLine, LeavesOutItsEnd) {
-    Canvas canvas(12, 8);
-    DrawSolidLine(&canvas.dc, 1, k_clrRed, 2, 3, 8, 3);
-    EXPECT_EQ("..######....", Row(canvas, 3, 12));
-    EXPECT_EQ(6, canvas.Count(k_clrRed));
-}
-
-TEST(DrawDashLine, HorizontalPixels) {
-    struct Case {
+TEST(DrawDashLine, LevelAndUpright) {
+    const struct {
         const char* pszName;
-        int x1, x2;
+        int nFrom, nTo;
         const char* pszWant;
-    };
-    for (const Case& c :
-         {Case{"dashes from 0, 6, 12 and 18", 0, 20, "###...###...###...##...."},
-          Case{"a dash is cut at the end", 0, 2, "##......................"},
-          Case{"ends within a gap", 0, 5, "###....................."},
-          Case{"nothing when reversed", 20, 0, "........................"},
-          Case{"nothing when empty", 7, 7, "........................"},
-          Case{"starts left of the surface", -4, 12, "..###...###............."},
-          Case{"a long way left of it", -6000000, 10, "###...###..............."},
-          Case{"from one end of the numbers to the other", INT_MIN, INT_MAX, "#...###...###...###...##"}}) {
-        SCOPED_TRACE(c.pszName);
-        Canvas canvas(24, 21);
-        DrawDashLine(&canvas.dc, 1, k_clrRed, c.x1, 10, c.x2, 10);
-        EXPECT_EQ(c.pszWant, Row(canvas, 10, 24));
-        EXPECT_EQ(std::count(c.pszWant, c.pszWant + 24, '#'), canvas.Count(k_clrRed))
-            << "and nothing elsewhere";
-    }
+    } cases[] = {{"dashes from 0, 6, 12 and 18", 0, 20, "###...###...###...##...."},
+                 {"a dash is cut at the end", 0, 2, "##......................"},
+                 {"ends within a gap", 0, 5, "###....................."},
+                 {"nothing when reversed", 20, 0, "........................"},
+                 {"nothing when empty", 7, 7, "........................"},
+                 {"starts before the surface", -4, 12, "..###...###............."},
+                 {"a long way before it", -6000000, 10, "###...###..............."},
+                 {"from one end of the numbers to the other", INT_MIN, INT_MAX, "#...###...###...###...##"}};
+    for (const auto& c : cases)
+        for (const bool bRow : {true, false}) {
+            SCOPED_TRACE(c.pszName);
+            Canvas canvas(k_nSide, k_nSide);
+            bRow ? DrawDashLine(&canvas.dc, 1, k_clrRed, c.nFrom, 10, c.nTo, 10)
+                 : DrawDashLine(&canvas.dc, 1, k_clrRed, 10, c.nFrom, 10, c.nTo);
+            EXPECT_EQ(c.pszWant, Cut(canvas, bRow));
+            EXPECT_EQ(std::count(c.pszWant, c.pszWant + k_nSide, '#'), canvas.Count(k_clrRed));
+        }
 }
 
-TEST(DrawDashLine, VerticalAndOffTheSurface) {
-    Canvas canvas(10, 16);
-    DrawDashLine(&canvas.dc, 1, k_clrRed, 4, 1, 4, 14);
-    EXPECT_EQ(".###...###...#..", Column(canvas, 4, 16));
-    canvas.Fill(k_clrWhite);
+TEST(DrawDashLine, SlantedOrBesideTheSurface) {
+    Canvas canvas(k_nSide, k_nSide);
     DrawDashLine(&canvas.dc, 1, k_clrRed, INT_MAX, INT_MIN, INT_MAX, INT_MAX);
     DrawDashLine(&canvas.dc, INT_MAX, k_clrRed, INT_MAX - 1, 0, INT_MAX, 0);
     EXPECT_EQ(0, canvas.Count(k_clrRed));
+    DrawDashLine(&canvas.dc, 1, k_clrRed, 8, 0, 10, 15);
+    EXPECT_EQ("......###...###.........", Cut(canvas, false)) << "on x, the second dash is at the end";
 }
 
-TEST(DrawDashLine, SlantedStaysAtTheEndReachedFirst) {
-    Canvas canvas(20, 20);
-    DrawDashLine(&canvas.dc, 1, k_clrRed, 0, 0, 2, 15);
-    EXPECT_EQ(k_clrRed, canvas.dc.GetPixel(0, 0));
-    EXPECT_EQ("......###...###.....", Column(canvas, 2, 20)) << "from the second dash on x is at its end";
-}
-
-TEST(DrawNoFillRect, OnePixelAround) {
-    Canvas canvas(10, 8);
-    DrawNoFillRect(&canvas.dc, CRect(1, 1, 9, 7), 5, k_clrRed);
-    EXPECT_EQ(2 * 8 + 2 * 4, canvas.Count(k_clrRed)) << "one pixel wide whatever the width says";
-    EXPECT_EQ(k_clrRed, canvas.dc.GetPixel(8, 6));
-    EXPECT_EQ(k_clrWhite, canvas.dc.GetPixel(4, 4)) << "the inside is left alone";
-}
-
-TEST(Lines, PutBackWhatWasSelected) {
-    Canvas canvas(10, 10);
+TEST(Lines, DrawOnePixelAndPutBackWhatWasSelected) {
+    Canvas canvas(k_nSide, k_nSide);
     const HGDIOBJ hPen = ::GetCurrentObject(canvas.dc, OBJ_PEN);
     const HGDIOBJ hBrush = ::GetCurrentObject(canvas.dc, OBJ_BRUSH);
-    DrawSolidLine(&canvas.dc, 1, k_clrRed, 0, 0, 5, 5);
+    DrawSolidLine(&canvas.dc, 1, k_clrRed, 2, 10, 8, 10);
+    EXPECT_EQ("..######................", Cut(canvas, true)) << "without its end";
+    DrawNoFillRect(&canvas.dc, CRect(1, 11, 9, 17), 5, k_clrBlue);
+    EXPECT_EQ(2 * 8 + 2 * 4, canvas.Count(k_clrBlue)) << "one pixel wide whatever the width says";
+    EXPECT_EQ(k_clrWhite, canvas.dc.GetPixel(4, 14)) << "the inside is left alone";
     DrawDashLine(&canvas.dc, 1, k_clrRed, 0, 0, 5, 0);
-    DrawNoFillRect(&canvas.dc, CRect(0, 0, 5, 5), 1, k_clrRed);
     EXPECT_EQ(hPen, ::GetCurrentObject(canvas.dc, OBJ_PEN));
     EXPECT_EQ(hBrush, ::GetCurrentObject(canvas.dc, OBJ_BRUSH));
-}
-
-TEST(Lines, NoDeviceContextDrawsNothing) {
     DrawSolidLine(nullptr, 1, k_clrRed, 0, 0, 5, 5);
     DrawDashLine(nullptr, 1, k_clrRed, 0, 0, 5, 0);
     DrawNoFillRect(nullptr, CRect(0, 0, 5, 5), 1, k_clrRed);

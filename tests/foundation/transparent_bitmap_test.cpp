@@ -4,74 +4,50 @@
 #include "canvas.h"
 
 namespace {
-/// A 4 x 3 picture: green, with a red cross of pixels at (1,1), (2,1) and a blue one at (0,2).
-class Picture {
-public:
-    Picture() {
+constexpr COLORREF k_clrBack = RGB(10, 20, 30);
+
+/// A 4 x 3 picture: green, with red pixels at (1,1), (2,1) and a blue one at (0,2).
+struct TransparentBitmap : testing::Test {
+    TransparentBitmap() {
         CClientDC dcScreen(nullptr);
         bitmap.CreateCompatibleBitmap(&dcScreen, 4, 3);
-        WithPixels([](CDC& dc) {
-            for (int i = 0; i < 12; ++i) dc.SetPixel(i % 4, i / 4, k_clrGreen);
+        WithPicture([](CDC& dc) {
+            dc.FillSolidRect(0, 0, 4, 3, k_clrGreen);
             dc.SetPixel(1, 1, k_clrRed), dc.SetPixel(2, 1, k_clrRed), dc.SetPixel(0, 2, k_clrBlue);
         });
     }
     template <class Use>
-    void WithPixels(Use use) {
+    void WithPicture(Use use) {
         CDC dc;
         dc.CreateCompatibleDC(nullptr);
-        CBitmap* pOld = dc.SelectObject(&bitmap);
+        CBitmap* const pOld = dc.SelectObject(&bitmap);
         use(dc);
         dc.SelectObject(pOld);
     }
     CBitmap bitmap;
+    Canvas canvas{10, 8, k_clrBack};
 };
 }  // namespace
 
-TEST(DrawTransparentBitmap, LeavesOutTheTransparentColour) {
-    Canvas canvas(10, 8, RGB(10, 20, 30));
-    Picture picture;
-    DrawTransparentBitmap(canvas.dc, 3, 2, picture.bitmap, k_clrGreen);
-    EXPECT_EQ(k_clrRed, canvas.dc.GetPixel(4, 3));
-    EXPECT_EQ(k_clrRed, canvas.dc.GetPixel(5, 3));
-    EXPECT_EQ(k_clrBlue, canvas.dc.GetPixel(3, 4));
-    EXPECT_EQ(0, canvas.Count(k_clrGreen));
-    EXPECT_EQ(10 * 8 - 3, canvas.Count(RGB(10, 20, 30)));
-}
-
-TEST(DrawTransparentBitmap, AnotherColourPaintsAll) {
-    Canvas canvas(10, 8);
-    Picture picture;
-    DrawTransparentBitmap(canvas.dc, 0, 0, picture.bitmap, k_clrWhite);
-    EXPECT_EQ(9, canvas.Count(k_clrGreen));
+TEST_F(TransparentBitmap, LeavesOutOneColourAndKeepsThePicture) {
+    for (const CPoint pt : {CPoint(3, 2), CPoint(8, 7)}) {  // this one mostly outside
+        canvas.Fill(k_clrBack);
+        DrawTransparentBitmap(canvas.dc, pt.x, pt.y, bitmap, k_clrGreen);
+        EXPECT_EQ(pt.x == 3 ? 10 * 8 - 3 : 10 * 8, canvas.Count(k_clrBack));
+        EXPECT_EQ(pt.x == 3 ? k_clrRed : k_clrBack, canvas.dc.GetPixel(5, 3));
+        EXPECT_EQ(pt.x == 3 ? k_clrBlue : k_clrBack, canvas.dc.GetPixel(3, 4));
+    }
+    DrawTransparentBitmap(canvas.dc, 0, 0, bitmap, k_clrWhite);
+    EXPECT_EQ(9, canvas.Count(k_clrGreen)) << "none is left out";
     EXPECT_EQ(2, canvas.Count(k_clrRed));
 }
 
-TEST(DrawTransparentBitmap, KeepsThePictureAndLetsItGo) {
-    Canvas canvas(10, 8);
-    Picture picture;
-    DrawTransparentBitmap(canvas.dc, 0, 0, picture.bitmap, k_clrGreen);
-    DrawTransparentBitmap(canvas.dc, 8, 7, picture.bitmap, k_clrGreen);  // partly outside
-    picture.WithPixels([](CDC& dc) {  // selecting it works: it is selected nowhere else
-        EXPECT_EQ(k_clrGreen, dc.GetPixel(0, 0));
-        EXPECT_EQ(k_clrRed, dc.GetPixel(1, 1));
-        EXPECT_EQ(k_clrBlue, dc.GetPixel(0, 2));
-    });
-}
-
-TEST(DrawTransparentBitmap, APictureInUseDrawsNothing) {
-    Canvas canvas(6, 6, RGB(10, 20, 30));
-    Picture picture;
-    picture.WithPixels([&](CDC& dc) {
-        DrawTransparentBitmap(canvas.dc, 1, 1, picture.bitmap, k_clrWhite);
+TEST_F(TransparentBitmap, APictureInUseAndBadHandlesDrawNothing) {
+    WithPicture([&](CDC& dc) {
+        DrawTransparentBitmap(canvas.dc, 1, 1, bitmap, k_clrWhite);
         EXPECT_EQ(k_clrRed, dc.GetPixel(1, 1)) << "the picture is as it was";
     });
-    EXPECT_EQ(36, canvas.Count(RGB(10, 20, 30)));
-}
-
-TEST(DrawTransparentBitmap, BadHandlesDrawNothing) {
-    Canvas canvas(6, 6);
-    Picture picture;
     DrawTransparentBitmap(canvas.dc, 0, 0, nullptr, k_clrGreen);
-    DrawTransparentBitmap(nullptr, 0, 0, picture.bitmap, k_clrGreen);
-    EXPECT_EQ(36, canvas.Count(k_clrWhite));
+    DrawTransparentBitmap(nullptr, 0, 0, bitmap, k_clrGreen);
+    EXPECT_EQ(10 * 8, canvas.Count(k_clrBack));
 }

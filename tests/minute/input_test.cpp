@@ -1,198 +1,159 @@
 // Mouse and keys in the minute chart.
-#include <cstdlib>
+#include <algorithm>
+#include <functional>
+#include <random>
 
-#include "minute/minute_window.h"
+#include "minute/day.h"
+#include "wrappers/host.h"
 
-namespace {
-/// A whole day in 600 x 300: panes from x 50 to 550, from y 25 to 204 and on to 281.
-class MinuteInput : public testing::Test {
-protected:
-    MinuteInput() {
-        window.Show(day);
-        window.Take();
-    }
-    void Move(CPoint pt) {
-        window.Mouse(WM_MOUSEMOVE, pt);
-        day.ptMouse = pt;
-    }
-    void ToSlot(int nSlot) {
-        const UINT nKey = nSlot < day.nCursor ? VK_LEFT : VK_RIGHT;
-        window.Keys(nKey, std::abs(nSlot - day.nCursor));
-        day.nCursor = nSlot;
-    }
-    void ShowCross() {
-        window.Mouse(WM_LBUTTONDBLCLK, {300, 100});
-        day.bCross = true;
-    }
-
-    MinuteDay day = WholeDay();
-    MinuteWindow window;
-};
-
-constexpr int k_nStays = 100;  // where the cursor is before each
-}  // namespace
-
-TEST_F(MinuteInput, MouseFindsSlots) {
-    struct Case {
+/// Strips are two pixels wide: in a wide pane some pixels are in none, in a narrow one the first slot wins.
+TEST(MinuteInput, MouseFindsSlots) {
+    constexpr int k_nStays = 100;
+    const struct {
         int cx;
         CPoint pt;
         int nWant;
-    };
-    // Strips are two pixels wide: in a wide pane some pixels are in none, in a narrow one the first slot
-    // wins.
-    for (const Case& c : {Case{600, {51, 100}, k_nStays},  Case{600, {52, 100}, 0},
-                          Case{600, {53, 100}, 0},         Case{600, {54, 100}, 1},
-                          Case{600, {73, 100}, 10},        Case{600, {74, 100}, k_nStays},
-                          Case{600, {75, 100}, 11},        Case{600, {300, 25}, 119},
-                          Case{600, {300, 24}, k_nStays},  Case{600, {300, 205}, 119},
-                          Case{600, {300, 280}, 119},      Case{600, {300, 281}, k_nStays},
-                          Case{600, {547, 100}, 238},      Case{600, {548, 100}, 238},
-                          Case{600, {549, 100}, k_nStays}, Case{600, {550, 100}, k_nStays},
-                          Case{600, {-1, 100}, k_nStays},  Case{600, {-32768, -32768}, k_nStays},
-                          Case{200, {50, 100}, 0},         Case{200, {51, 100}, 0},
-                          Case{200, {52, 100}, 2},         Case{200, {53, 100}, 4},
-                          Case{200, {149, 100}, 235},      Case{200, {150, 100}, k_nStays},
-                          Case{1000, {54, 100}, 0},        Case{1000, {55, 100}, k_nStays},
-                          Case{1000, {57, 100}, 1},        Case{100, {50, 100}, k_nStays},
-                          Case{60, {50, 40}, k_nStays}})
-        for (const UINT nMessage : {WM_MOUSEMOVE, WM_LBUTTONDOWN}) {
-            SCOPED_TRACE(testing::Message()
-                         << nMessage << " at " << c.pt.x << "," << c.pt.y << " of " << c.cx);
-            window.Resize(c.cx, 300);
-            ToSlot(k_nStays);
-            TakeRepaint(window.Handle());
+    } cases[] = {{600, {51, 100}, k_nStays},  {600, {52, 100}, 0},         {600, {53, 100}, 0},
+                 {600, {54, 100}, 1},         {600, {73, 100}, 10},        {600, {74, 100}, k_nStays},
+                 {600, {300, 25}, 119},       {600, {300, 24}, k_nStays},  {600, {300, 205}, 119},
+                 {600, {300, 280}, 119},      {600, {300, 281}, k_nStays}, {600, {548, 100}, 238},
+                 {600, {549, 100}, k_nStays}, {600, {550, 100}, k_nStays}, {200, {50, 100}, 0},
+                 {200, {52, 100}, 2},         {200, {149, 100}, 235},      {60, {50, 40}, k_nStays}};
+    for (const UINT nMessage : {WM_MOUSEMOVE, WM_LBUTTONDOWN})
+        for (const auto& c : cases) {
+            SCOPED_TRACE(testing::Message() << c.pt.x << "," << c.pt.y << " of " << c.cx);
+            MinuteDay day;
+            MinuteWindow window(c.cx, 300);
+            window.Show(day);
+            window.Key(VK_RIGHT, k_nStays);
             window.Mouse(nMessage, c.pt);
-            EXPECT_EQ(c.nWant != k_nStays, TakeRepaint(window.Handle()));
             window.Resize(600, 300);
             day.nCursor = c.nWant;
-            EXPECT_EQ(day.Picture(600, 300), window.TakeWhole());
+            window.ExpectShows(day);
         }
 }
 
-TEST_F(MinuteInput, KeysStopAtBothEnds) {
-    struct Case {
-        int nFrom;
-        UINT nKey;
-        int nWant;
-    };
-    for (const Case& c :
-         {Case{0, VK_LEFT, 0}, Case{0, VK_RIGHT, 1}, Case{120, VK_LEFT, 119}, Case{238, VK_RIGHT, 239},
-          Case{239, VK_RIGHT, 239}, Case{239, VK_LEFT, 238}, Case{50, VK_UP, 50}, Case{50, VK_ESCAPE, 50}}) {
-        SCOPED_TRACE(testing::Message() << c.nFrom << ", key " << c.nKey);
-        ToSlot(c.nFrom);
-        window.Take();
-        window.Key(c.nKey);
-        day.nCursor = c.nWant;
-        EXPECT_EQ(c.nKey == VK_LEFT || c.nKey == VK_RIGHT, TakeRepaint(window.Handle()));
-        EXPECT_EQ(day.Picture(600, 300), window.TakeWhole());
-    }
-}
-
-TEST_F(MinuteInput, KeysOfOtherWindowsAreNotTaken) {
-    CWnd* pControl = CWnd::FromHandlePermanent(window.Handle());
-    MSG msg{window.Host(), WM_KEYDOWN, VK_RIGHT, 0, 0, {0, 0}};
-    EXPECT_FALSE(pControl->PreTranslateMessage(&msg));
-    window.Key(VK_RIGHT, WM_KEYUP);
-    ::SendMessage(window.Handle(), WM_KEYDOWN, VK_RIGHT, 0);
-    EXPECT_FALSE(TakeRepaint(window.Handle()));
-    EXPECT_EQ(day.Picture(600, 300), window.TakeWhole());
-}
-
-TEST_F(MinuteInput, DoubleClickInThePricePaneTogglesTheCrossHair) {
-    struct Case {
-        CPoint pt;
-        bool bToggles;
-    };
-    Move({300, 100});
-    day.nCursor = 119;
-    for (const Case& c :
-         {Case{{50, 25}, true}, Case{{549, 203}, true}, Case{{550, 100}, false}, Case{{300, 204}, false},
-          Case{{300, 250}, false}, Case{{49, 100}, false}, Case{{300, 24}, false}, Case{{300, 100}, true}}) {
-        SCOPED_TRACE(testing::Message() << c.pt.x << "," << c.pt.y);
-        TakeRepaint(window.Handle());
-        window.Mouse(WM_LBUTTONDBLCLK, c.pt);
-        if (c.bToggles) day.bCross = !day.bCross;
-        EXPECT_EQ(c.bToggles, TakeRepaint(window.Handle()));
-        EXPECT_EQ(day.Picture(600, 300), window.TakeWhole());
-    }
-}
-
-/// What is left of the cross-hair by a move that asks for no repaint shows with the next one.
-TEST_F(MinuteInput, CrossHairFollowsMouseAndKeys) {
-    ShowCross();
-    window.ExpectShows(day);  // at the corner: the mouse has not been seen yet
-    struct Case {
-        const char* pszName;
-        UINT nMessage;
-        CPoint pt;  ///< Of a key: which, and how many times.
-        bool bRepaints;
-        int nCursor;
-        CPoint ptMouse;
-    };
-    for (const Case& c :
-         {Case{"to another slot", WM_MOUSEMOVE, {300, 100}, true, 119, {300, 100}},
-          Case{"within the slot", WM_MOUSEMOVE, {301, 150}, false, 119, {301, 150}},
-          Case{"between two slots", WM_MOUSEMOVE, {74, 30}, false, 119, {74, 30}},
-          Case{"into the title", WM_MOUSEMOVE, {200, 10}, false, 119, {200, 10}},
-          Case{"out of the window", WM_MOUSEMOVE, {-7, 400}, false, 119, {-7, 400}},
-          Case{"over the volume", WM_MOUSEMOVE, {400, 250}, true, 167, {400, 250}},
-          Case{"a press", WM_LBUTTONDOWN, {52, 40}, true, 0, {400, 250}},
-          Case{"the same again", WM_LBUTTONDOWN, {53, 41}, false, 0, {400, 250}},
-          Case{"a release", WM_LBUTTONUP, {100, 40}, false, 0, {400, 250}},
-          Case{"the other button", WM_RBUTTONDOWN, {100, 40}, false, 0, {400, 250}},
-          Case{"left at the first slot", WM_KEYDOWN, {VK_LEFT, 1}, true, 0, {50, 250}},
-          Case{"right", WM_KEYDOWN, {VK_RIGHT, 1}, true, 1, {50 + 500 * 1 / 240, 250}},
-          Case{"to the last slot", WM_KEYDOWN, {VK_RIGHT, 238}, true, 239, {50 + 497, 250}}}) {
-        SCOPED_TRACE(c.pszName);
-        const Shot before = window.Take();
-        if (c.nMessage == WM_KEYDOWN)
-            window.Keys(c.pt.x, c.pt.y);
-        else
-            window.Mouse(c.nMessage, c.pt);
-        day.nCursor = c.nCursor, day.ptMouse = c.ptMouse;
-        if (!c.bRepaints) {
-            EXPECT_EQ(before, window.Take());
-        }
-        EXPECT_EQ(c.bRepaints, TakeRepaint(window.Handle()));
-        EXPECT_EQ(day.Picture(600, 300), window.TakeWhole());
-    }
-}
-
-TEST_F(MinuteInput, NewMinutesLeaveTheUserAlone) {
-    ShowCross();
-    Move({300, 100});
-    day.nCursor = 119;
-    day.Put(Minute(150000, 10.2f, 9e6f, 3)).Play();
-    tagmyMinuteData data = day.fed.back();
-    window.Take();
-    EXPECT_TRUE(window.chart->SetData(data));
-    EXPECT_FALSE(TakeRepaint(window.Handle()));
-    window.chart->Play();
-    window.ExpectShows(day);
-}
-
-TEST_F(MinuteInput, InitHidesTheCrossHairAndGoesToTheFirstSlot) {
-    ShowCross();
-    Move({300, 100});
-    window.Take();
-    const tagStockItem other = MinuteDay(20, 1).stock;
-    tagStockItem stock = other;
-    window.chart->Init(stock);
-    EXPECT_FALSE(TakeRepaint(window.Handle()));
-    EXPECT_EQ(MinuteDay(20, 1).Picture(600, 300), window.TakeWhole());
-}
-
-TEST_F(MinuteInput, TheCursorIsAnArrow) {
+TEST(MinuteInput, TheCursorIsAnArrow) {
     const HCURSOR hArrow = ::LoadCursor(nullptr, IDC_ARROW);
-    for (const CPoint pt : {CPoint(300, 100), CPoint(3, 3), CPoint(-5, 900)}) {
+    const auto shown = [](auto act) {
         ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
-        window.Mouse(WM_MOUSEMOVE, pt);
-        EXPECT_EQ(hArrow, ::GetCursor());
+        act();
+        return ::GetCursor();
+    };
+    HostWindow host;
+    CProxy_ChartOL chart;
+    EXPECT_NE(hArrow, shown([&] { EXPECT_FALSE(CreateIn(chart, nullptr)); }));
+    EXPECT_EQ(hArrow, shown([&] { EXPECT_TRUE(CreateIn(chart, &host)); }));
+    EXPECT_EQ(hArrow, shown([&] { ::SendMessage(ControlIn(host), WM_MOUSEMOVE, 0, MAKELPARAM(-5, 900)); }));
+}
+
+namespace {
+/// One chart, the day that it should show, and everything that can happen to both.
+class Walk {
+public:
+    Walk() { m_window.Show(m_day); }
+
+    void Step() {
+        const auto& [pszName, act] = k_actions[UpTo(std::size(k_actions))];
+        SCOPED_TRACE(pszName);
+        const bool bWaited = m_window.IsInvalid(), bAsks = (this->*act)();
+        EXPECT_EQ(bWaited || bAsks, m_window.IsInvalid());
+        if (UpTo(4) == 0) return;
+        ::InvalidateRect(m_window.Handle(), CRect(0, 0, 1, 1), TRUE);
+        if (UpTo(2) == 0) ::InvalidateRect(m_window.Handle(), nullptr, TRUE);
+        m_window.ExpectShows(m_day);
     }
-    ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
-    CProxy_ChartOL other;
-    EXPECT_FALSE(other.Create(nullptr, CRect(0, 0, 100, 100), 5));
-    EXPECT_NE(hArrow, ::GetCursor()) << "no window";
-    EXPECT_TRUE(other.Create(&window.Host(), CRect(0, 0, 100, 100), 5));
-    EXPECT_EQ(hArrow, ::GetCursor());
+
+private:
+    int UpTo(std::size_t n) { return static_cast<int>(m_random() % n); }
+    CPoint AnyPoint() { return CPoint(UpTo(m_size.cx + 20) - 10, UpTo(m_size.cy + 20) - 10); }
+    CRect PricePane() const { return CRect(50, 25, m_size.cx - 50, (m_size.cy - 44) * 8 / 10); }
+
+    /// Whether another slot is found.
+    bool Hit(CPoint pt) {
+        const CRect rc = PricePane();
+        if (!CRect(rc.left, rc.top, rc.right, m_size.cy - 19).PtInRect(pt)) return false;
+        for (int i = 0; i < 240; ++i) {
+            const int x = rc.left + rc.Width() * (i + 1) / 240;
+            if (pt.x == x || pt.x == x + 1) return std::exchange(m_day.nCursor, i) != i;
+        }
+        return false;
+    }
+
+    // Each tells whether the chart asks for a repaint.
+    bool Move() {
+        m_window.Mouse(WM_MOUSEMOVE, m_day.ptMouse = AnyPoint());
+        return CRect({0, 0}, m_size).PtInRect(m_day.ptMouse) && Hit(m_day.ptMouse);
+    }
+    bool Press() {
+        const CPoint pt = AnyPoint();
+        m_window.Mouse(WM_LBUTTONDOWN, pt);
+        return Hit(pt);
+    }
+    bool DoubleClick() {
+        const CPoint pt = AnyPoint();
+        m_window.Mouse(WM_LBUTTONDBLCLK, pt);
+        const bool bIn = PricePane().PtInRect(pt);
+        m_day.bCross ^= bIn;
+        return bIn;
+    }
+    bool Key() {
+        const bool bRight = UpTo(2) == 0;
+        const int nTimes = UpTo(3) == 0 ? 1 + UpTo(300) : 1;
+        m_window.Key(bRight ? VK_RIGHT : VK_LEFT, nTimes);
+        m_day.nCursor = std::clamp(m_day.nCursor + (bRight ? nTimes : -nTimes), 0, 239);
+        m_day.ptMouse.x = 50 + (m_size.cx - 100) * m_day.nCursor / 240;
+        return true;
+    }
+    bool NothingForIt() {
+        CWnd* const pControl = CWnd::FromHandlePermanent(m_window.Handle());
+        MSG msg{::GetParent(m_window.Handle()), WM_KEYDOWN, VK_RIGHT, 0, 0, {0, 0}};
+        EXPECT_FALSE(pControl->PreTranslateMessage(&msg));
+        m_window.Key(VK_UP);
+        for (const UINT nMessage : {WM_KEYDOWN, WM_KEYUP}) m_window.Send(nMessage, VK_RIGHT);
+        for (const UINT nMessage : {WM_LBUTTONUP, WM_RBUTTONDOWN}) m_window.Mouse(nMessage, AnyPoint());
+        tagmyMinuteData refused{1, 140000, 0, 0, 0, 10, -1, 0, 5};
+        EXPECT_FALSE(m_window.chart.SetData(refused));
+        return false;
+    }
+    bool Store() {
+        m_day.Put(static_cast<unsigned>(85000 + UpTo(66000)), 10 + static_cast<float>(UpTo(200) - 100) / 300,
+                  static_cast<float>(UpTo(1000000)), static_cast<float>(UpTo(9) - 4));
+        EXPECT_TRUE(m_window.chart.SetData(m_day.fed.back()));
+        return false;
+    }
+    bool Play() {
+        m_window.chart.Play();
+        m_day.Play();
+        return true;
+    }
+    bool Init() {
+        MinuteDay day = UpTo(2) == 0 ? WholeDay() : MinuteDay(static_cast<float>(5 + UpTo(10)), UpTo(4));
+        day.ptMouse = m_day.ptMouse;
+        m_window.Store(m_day = day);
+        return false;
+    }
+    bool Resize() {
+        const CSize size = std::exchange(m_size, CSize(1 + UpTo(500), 1 + UpTo(300)));
+        m_window.Resize(m_size.cx, m_size.cy);
+        return size != m_size;
+    }
+
+    static constexpr std::pair<const char*, bool (Walk::*)()> k_actions[] = {
+        {"move", &Walk::Move},     {"move again", &Walk::Move},          {"press", &Walk::Press},
+        {"key", &Walk::Key},       {"double click", &Walk::DoubleClick}, {"store", &Walk::Store},
+        {"play", &Walk::Play},     {"nothing", &Walk::NothingForIt},     {"init", &Walk::Init},
+        {"resize", &Walk::Resize}, {"play again", &Walk::Play}};
+
+    std::mt19937 m_random{20180921};
+    CSize m_size{600, 300};
+    MinuteWindow m_window{600, 300};
+    MinuteDay m_day;
+};
+}  // namespace
+
+/// A long random walk: after every step it shows what a chart drawn from nothing shows.
+TEST(MinuteWalk, AlwaysTheWholePicture) {
+    Walk walk;
+    for (int i = 0; i < TAVLON_WALK_STEPS / 20 && !testing::Test::HasFailure(); ++i) walk.Step();
 }

@@ -3,7 +3,6 @@
 
 #include <foundation/toolkit.h>
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -21,56 +20,43 @@ inline tagPieChartData Item(double dValue, int nId, int nType, const std::string
 }
 
 inline std::string Amount(double d) {
+    if (d < 10000) return FormatFixed(d, 2);
     char szText[64] = "";
-    if (d < 10000)
-        std::snprintf(szText, sizeof szText, "%0.2lf", d);
-    else
-        FormatBigNumber(szText, 99, d);
+    FormatBigNumber(szText, 99, d);
     return szText;
 }
 
-/// A part of a disc; a pixel is in it or not.
-class SliceArea {
-public:
-    SliceArea(CPoint ptCorner, int r, double s, double e) {
-        m_disc.CreateEllipticRgn(ptCorner.x, ptCorner.y, ptCorner.x + 2 * r, ptCorner.y + 2 * r);
-        const double d = e - s;
-        m_k = static_cast<int>(d * 100);
-        const int cx = ptCorner.x + r, cy = ptCorner.y + r;
-        const auto At = [=](int nReach, double dAngle) {
-            return POINT{cx + static_cast<int>(nReach * std::sin(dAngle)),
-                         cy - static_cast<int>(nReach * std::cos(dAngle))};
-        };
-        const POINT ptCentre{cx, cy};
-        if (m_k > 0 && m_k < 314) {
-            const int nReach = static_cast<int>(r / std::cos(d / 2)) + 2;
-            Cut({At(nReach, s), At(nReach, e), ptCentre});
-        } else if (m_k > 314 && m_k < 628) {
-            const int nReach = static_cast<int>(r / std::cos((k_dTurn - d) / 2));
-            Cut({At(nReach, e), At(nReach, s), ptCentre});
-        } else if (m_k == 314) {
-            const int nSin = static_cast<int>(r * std::sin(s)), nCos = static_cast<int>(r * std::cos(s));
-            Cut({{cx - nSin, cy + nCos},
-                 {cx + nSin, cy - nCos},
-                 {cx + nSin + nCos, cy - nCos + nSin},
-                 {cx - nSin + nCos, cy + nCos + nSin}});
-        }
+/// The part of a disc between two angles; empty for what is too thin.
+inline void MakeSlice(CRgn& rgn, CPoint ptCorner, int r, double s, double e) {
+    rgn.CreateEllipticRgn(ptCorner.x, ptCorner.y, ptCorner.x + 2 * r, ptCorner.y + 2 * r);
+    const double d = e - s;
+    const int k = static_cast<int>(d * 100), cx = ptCorner.x + r, cy = ptCorner.y + r;
+    const auto at = [=](double dReach, double dAngle) {
+        const int nReach = static_cast<int>(dReach);
+        return POINT{cx + static_cast<int>(nReach * std::sin(dAngle)),
+                     cy - static_cast<int>(nReach * std::cos(dAngle))};
+    };
+    std::vector<POINT> cut;
+    if (k > 0 && k < 314) {
+        const int nReach = static_cast<int>(r / std::cos(d / 2)) + 2;
+        cut = {at(nReach, s), at(nReach, e), {cx, cy}};
+    } else if (k > 314 && k < 628) {
+        const double dReach = r / std::cos((k_dTurn - d) / 2);
+        cut = {at(dReach, e), at(dReach, s), {cx, cy}};
+    } else if (k == 314) {
+        const int nSin = static_cast<int>(r * std::sin(s)), nCos = static_cast<int>(r * std::cos(s));
+        cut = {{cx - nSin, cy + nCos},
+               {cx + nSin, cy - nCos},
+               {cx + nSin + nCos, cy - nCos + nSin},
+               {cx - nSin + nCos, cy + nCos + nSin}};
     }
-    bool Has(int x, int y) const {
-        if (!m_disc.GetSafeHandle() || !m_disc.PtInRegion(x, y)) return false;
-        if (m_k == 628) return true;
-        const bool bCut = m_cut.GetSafeHandle() && m_cut.PtInRegion(x, y);
-        if (m_k > 314 && m_k < 628) return !bCut;
-        return m_k > 0 && m_k <= 314 && bCut;
-    }
-
-private:
-    void Cut(const std::vector<POINT>& corners) {
-        m_cut.CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), ALTERNATE);
-    }
-    CRgn m_disc, m_cut;
-    int m_k;
-};
+    CRgn rgnCut;
+    if (k == 628) return;
+    if (cut.empty() || !rgnCut.CreatePolygonRgn(&cut[0], static_cast<int>(cut.size()), ALTERNATE))
+        rgn.SetRectRgn(0, 0, 0, 0);
+    else
+        rgn.CombineRgn(&rgn, &rgnCut, k > 314 ? RGN_DIFF : RGN_AND);
+}
 
 struct PieModel {
     CSize size;
@@ -142,10 +128,10 @@ private:
     }
     void DrawSlice(CDC& dc, const Slice& slice) const {
         if (slice.data.nId == nSelected) {
-            const SliceArea area(slice.ptCorner, slice.r, slice.s, slice.e);
-            for (int y = 0; y < size.cy; ++y)
-                for (int x = 0; x < size.cx; ++x)
-                    if (area.Has(x, y)) dc.SetPixel(x, y, clrActive);
+            CRgn rgn;
+            CBrush brush(clrActive);
+            MakeSlice(rgn, slice.ptCorner, slice.r, slice.s, slice.e);
+            dc.FillRgn(&rgn, &brush);
         }
         if (static_cast<int>((slice.e - slice.s) * 100) == 628) return;
         const int cx = slice.ptCorner.x + slice.r, cy = slice.ptCorner.y + slice.r;

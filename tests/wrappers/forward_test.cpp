@@ -8,16 +8,6 @@ struct Control {
     int nCalls = 0;
 };
 
-/// Tells when it goes, as a control's window tells the host.
-struct Parting {
-    ~Parting() {
-        if (onGo) onGo();
-    }
-    int Answer() const { return nAnswer; }
-    std::function<void()> onGo;
-    int nAnswer = 1;
-};
-
 struct NoMemory {
     NoMemory() { throw std::bad_alloc(); }
 };
@@ -53,38 +43,3 @@ TEST(Forward, KeepsTheControlWhileItIsCalled) {
 }
 
 TEST(MakeControl, NoMemoryGivesNoControl) { EXPECT_FALSE(MakeControl<NoMemory>()); }
-
-TEST(Owned, IsEmptyWhileTheControlGoes) {
-    auto* pOwner = new Owned<Parting>(std::make_shared<Parting>());
-    int nGone = 0, nAnswer = 99;
-    (**pOwner).onGo = [&] {
-        if (++nGone == 1) nAnswer = Forward<-1>(*pOwner, &Parting::Answer);
-    };
-    delete pOwner;
-    EXPECT_EQ(1, nGone);
-    EXPECT_EQ(-1, nAnswer);
-}
-
-TEST(Owned, HasTheNewControlWhileTheOldOneGoes) {
-    Owned<Parting> owner(std::make_shared<Parting>()), next(std::make_shared<Parting>());
-    (*next).nAnswer = 2;
-    int nGone = 0, nAnswer = 99;
-    (*owner).onGo = [&] {
-        if (++nGone == 1) nAnswer = Forward(owner, &Parting::Answer);
-    };
-    owner = next;
-    EXPECT_EQ(1, nGone);
-    EXPECT_EQ(2, nAnswer);
-}
-
-TEST(Owned, AssignedToItselfKeepsTheControl) {
-    Owned<Parting> owner(std::make_shared<Parting>());
-    int nGone = 0;
-    (*owner).onGo = [&] { ++nGone; };
-    owner = *&owner;
-    EXPECT_EQ(0, nGone);
-    EXPECT_TRUE(owner);
-    owner = {};
-    EXPECT_EQ(1, nGone);
-    EXPECT_FALSE(owner);
-}

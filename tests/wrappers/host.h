@@ -28,10 +28,13 @@ public:
 /// A host that acts when it is next told of something.
 class ListeningHost : public HostWindow {
 public:
-    void OnFocusLost(std::function<void()> action) { On(WM_KILLFOCUS, -1, std::move(action)); }
-    void OnChildDestroyed(std::function<void()> action) {
-        On(WM_PARENTNOTIFY, WM_DESTROY, std::move(action));
+    void On(UINT nMessage, std::function<void()> action, int nEvent = -1) {
+        m_nMessage = nMessage, m_nEvent = nEvent, m_action = std::move(action);
     }
+    void OnChildDestroyed(std::function<void()> action) {
+        On(WM_PARENTNOTIFY, std::move(action), WM_DESTROY);
+    }
+    bool HasActed() const { return !m_action; }
 
 protected:
     LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
@@ -41,10 +44,6 @@ protected:
     }
 
 private:
-    void On(UINT nMessage, int nEvent, std::function<void()> action) {
-        m_nMessage = nMessage, m_nEvent = nEvent, m_action = std::move(action);
-    }
-
     UINT m_nMessage = 0;
     int m_nEvent = -1;  ///< Low word of wParam; negative: any.
     std::function<void()> m_action;
