@@ -44,7 +44,6 @@ public:
         day.Play();
         chart.Play();
     }
-    void Mouse(UINT nMessage, CPoint pt) { Send(nMessage, 0, MAKELPARAM(pt.x, pt.y)); }
     /// As the host's message loop hands it on.
     void Key(UINT nKey, int nTimes = 1) {
         for (MSG msg{Handle(), WM_KEYDOWN, nKey, 0, 0, {0, 0}}; nTimes > 0; --nTimes) {
