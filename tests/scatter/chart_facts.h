@@ -39,3 +39,9 @@ inline const ChartFacts k_facts<CProxy_PointStartCtrl>{
     .nYReach = 70,
     .bStar = true,
     .bPlayDrawsAnew = true};
+
+template <class Chart>
+class FactsTest : public ChartTest<Chart> {
+protected:
+    const ChartFacts& f = k_facts<Chart>;
+};

@@ -135,3 +135,9 @@ private:
 
     ScatterState m_state;
 };
+
+template <class Chart>
+class ChartTest : public testing::Test {
+protected:
+    ChartView<Chart> m_view;
+};

@@ -11,11 +11,7 @@ constexpr COLORREF k_clrBlack = 0, k_clrShaft = RGB(182, 0, 0), k_clrGrid = RGB(
                    k_clrText = RGB(192, 192, 192), k_clrNew = RGB(9, 8, 7);
 
 template <class Chart>
-class ScatterFrame : public testing::Test {
-protected:
-    const ChartFacts& f = k_facts<Chart>;
-    ChartView<Chart> m_view;
-};
+class ScatterFrame : public FactsTest<Chart> {};
 TYPED_TEST_SUITE(ScatterFrame, ScatterCharts, ChartNames);
 }  // namespace
 

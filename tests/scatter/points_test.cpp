@@ -28,10 +28,7 @@ std::string Discs(View& view, std::initializer_list<std::pair<double, double>> v
 }
 
 template <class Chart>
-class ScatterPoints : public testing::Test {
-protected:
-    ChartView<Chart> m_view;
-};
+class ScatterPoints : public ChartTest<Chart> {};
 TYPED_TEST_SUITE(ScatterPoints, ScatterCharts, ChartNames);
 }  // namespace
 

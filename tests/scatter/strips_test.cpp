@@ -41,11 +41,7 @@ void ExpectStrips(ChartView<Chart>& view, const std::string& info, const char* p
 }
 
 template <class Chart>
-class ScatterStrips : public testing::Test {
-protected:
-    const ChartFacts& f = k_facts<Chart>;
-    ChartView<Chart> m_view;
-};
+class ScatterStrips : public FactsTest<Chart> {};
 TYPED_TEST_SUITE(ScatterStrips, ScatterCharts, ChartNames);
 }  // namespace
 

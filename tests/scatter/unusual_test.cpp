@@ -5,10 +5,7 @@
 
 namespace {
 template <class Chart>
-class ScatterUnusual : public testing::Test {
-protected:
-    ChartView<Chart> m_view;
-};
+class ScatterUnusual : public ChartTest<Chart> {};
 TYPED_TEST_SUITE(ScatterUnusual, ScatterCharts, ChartNames);
 }  // namespace
 

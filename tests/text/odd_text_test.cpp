@@ -2,51 +2,27 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <climits>
-#include <cstdint>
 #include <string>
+
+#include "gdi/picture.h"
 
 namespace {
 
 constexpr const char* kFaces[] = {"楷体", "HelveticaNeueLT Pro 55 Roman"};
 
 /// White paper, black text without smoothing.
-class TextCanvas {
-public:
-    static constexpr int kWidth = 200, kHeight = 100;
-
+struct TextCanvas {
     explicit TextCanvas(const char* pszFace = kFaces[0], int nHeight = 14)
-        : hdc(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = kWidth;
-        info.bmiHeader.biHeight = -kHeight;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        m_hBitmap =
-            CreateDIBSection(hdc, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_pPixels), nullptr, 0);
-        m_hOldBitmap = SelectObject(hdc, m_hBitmap);
-        m_hFont = CreateFontA(nHeight, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
-                              NONANTIALIASED_QUALITY, 0, pszFace);
-        m_hOldFont = SelectObject(hdc, m_hFont);
+        : font(picture.Dc(), CreateFontA(nHeight, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
+                                         NONANTIALIASED_QUALITY, 0, pszFace)) {
         SetBkMode(hdc, TRANSPARENT);
-        std::fill_n(m_pPixels, kWidth * kHeight, 0xffffff);
     }
-    ~TextCanvas() {
-        SelectObject(hdc, m_hOldFont);
-        SelectObject(hdc, m_hOldBitmap);
-        DeleteObject(m_hFont);
-        DeleteObject(m_hBitmap);
-        DeleteDC(hdc);
-    }
-    TextCanvas(const TextCanvas&) = delete;
-    TextCanvas& operator=(const TextCanvas&) = delete;
 
     bool Blank() const {
-        GdiFlush();
-        return std::all_of(m_pPixels, m_pPixels + kWidth * kHeight,
-                           [](std::uint32_t pixel) { return (pixel & 0xffffff) == 0xffffff; });
+        for (int i = 0; i < kWidth * kHeight; ++i)
+            if (picture.At(i % kWidth, i / kWidth) != 0xffffff) return false;
+        return true;
     }
     int WidthOf(const std::string& text) const {
         SIZE size{};
@@ -54,13 +30,10 @@ public:
         return size.cx;
     }
 
-    HDC hdc;
-
-private:
-    HBITMAP m_hBitmap;
-    std::uint32_t* m_pPixels = nullptr;
-    HFONT m_hFont;
-    HGDIOBJ m_hOldBitmap, m_hOldFont;
+    static constexpr int kWidth = 200, kHeight = 100;
+    gdi_test::Picture picture{kWidth, kHeight};
+    gdi_test::Selected font;
+    const HDC hdc = picture.Dc();
 };
 
 TEST(OddText, AnyFontWrites) {
