@@ -14,9 +14,9 @@ std::string_view FieldText(const char (&szField)[nSize]) {
 /// left of the field is zeroed. A null pointer is an empty text.
 template <std::size_t nSize>
 void CopyText(char (&szField)[nSize], const char* pszText) {
-    const std::size_t nLength = pszText != nullptr ? ::strnlen(pszText, nSize - 1) : 0;
     char szCopy[nSize] = {};  // the text may be the field itself
-    if (nLength > 0) std::memcpy(szCopy, pszText, nLength);
+    if (pszText != nullptr)
+        for (std::size_t n = 0; n + 1 < nSize && pszText[n] != '\0'; ++n) szCopy[n] = pszText[n];
     std::memcpy(szField, szCopy, nSize);
 }
 
