@@ -1,11 +1,11 @@
 // What the wrappers accept, refuse and give back.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <limits>
 #include <string>
 #include <string_view>
 
+#include "foundation/text_copy.h"
 #include "host.h"
 
 namespace {
@@ -157,15 +157,16 @@ TEST(PriceRadarData, Refusals) {
 }
 
 namespace {
+std::string CodeOf(int nStock) { return std::to_string(100000 + nStock); }
 tagmyStarData Star(int nCode, unsigned dwCheckB = 1, float fCheckA = 0, float fCheckC = 0) {
     tagmyStarData data{};
-    std::snprintf(data.szCode, sizeof data.szCode, "%06d", nCode);
+    CopyText(data.szCode, CodeOf(nCode).c_str());
     data.dwCheckB = dwCheckB, data.fCheckA = fCheckA, data.fCheckC = fCheckC;
     return data;
 }
 tagPointRadarItemData Point(int nCode) {
     tagPointRadarItemData data{};
-    std::snprintf(data.szCode, sizeof data.szCode, "%06d", nCode / 2);
+    CopyText(data.szCode, CodeOf(nCode / 2).c_str());
     data.cMarket = static_cast<char>(nCode % 2);
     data.dX = k_dNaN, data.dY = k_dInfinity;  // any values are taken
     return data;
