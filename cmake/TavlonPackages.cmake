@@ -28,8 +28,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 set(runtime_package libtavlon${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-# The faces that labels and titles are drawn with; the libraries that the files themselves name are added.
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "fonts-arphic-ukai, fonts-wqy-microhei, fonts-urw-base35")
+# The faces that labels and titles are drawn with, and one for characters they lack; the libraries that the files themselves
+# name are added.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "fonts-arphic-ukai, fonts-wqy-microhei, fonts-urw-base35, fonts-dejavu-core")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The shared libraries: radars, sector wheel, minute chart, money-flow pies,
 gauges and tab strip for programs that show the Chinese stock market, in a
 window or without a display.")

@@ -34,7 +34,7 @@ install_packages() {
 
 native_packages=(g++ cmake ninja-build ccache pkg-config binutils-mingw-w64-x86-64
     libpixman-1-dev libfreetype-dev libfontconfig-dev libsdl2-dev libpng-dev
-    fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35)
+    fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35 fonts-dejavu-core)
 test_packages=(libgtest-dev)
 lint_packages=(clang-tidy clang-format git)
 package_packages=(dpkg-dev file)

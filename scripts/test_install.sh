@@ -97,7 +97,8 @@ check_refusal() {
 depends() { dpkg-deb -f build/packages/"$1"_"$version"_amd64.deb Depends; }
 check_packages() {
     local names
-    for needed in fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35 libsdl2-2.0-0 libpixman-1-0 libfontconfig1 libfreetype6 libc6; do
+    for needed in fonts-arphic-ukai fonts-wqy-microhei fonts-urw-base35 fonts-dejavu-core libsdl2-2.0-0 libpixman-1-0 \
+        libfontconfig1 libfreetype6 libc6; do
         contains "$(depends libtavlon0)" "$needed" "what the libraries depend on"
     done
     contains "$(depends libtavlon-dev)" "libtavlon0 (= $version)" "what hosts are built with depends on"
